@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace marivox {
+
+struct Version {
+    std::int16_t major = 0;
+    std::int16_t minor = 0;
+    std::int16_t revision = 0;
+};
+
+// The running program as the platform sees it.
+class Application {
+  public:
+    virtual ~Application() = default;
+
+    // The folder of the running executable, without a trailing separator.
+    virtual std::string programFolder() const = 0;
+    virtual std::string helpFile() const = 0;
+    virtual void setHelpFile(std::string path) = 0;
+    virtual std::string title() const = 0;
+    virtual void setTitle(std::string title) = 0;
+    virtual Version version() const = 0;
+    // Ends the program without running any window's unload handler. The caller returns
+    // normally afterwards and must do nothing more.
+    virtual void endNow() = 0;
+};
+
+}  // namespace marivox

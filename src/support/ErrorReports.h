@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "support/Failure.h"
+#include "support/Procedures.h"
+
+namespace marivox {
+
+class Application;
+class MessageBoxes;
+class Speech;
+
+// The two forms in which a guarded procedure tells the player about a failure.
+class ErrorReports {
+  public:
+    ErrorReports(MessageBoxes& boxes, Application& application);
+
+    // ShowError speaks through the game's speech, which in turn reports its own failures
+    // here; the two are wired after both exist.
+    void attachSpeech(Speech& speech) { speech_ = &speech; }
+
+    void ReportError(std::int32_t number, std::string_view description, std::string_view label);
+    void ShowError(const std::string& description, const std::string& label);
+    void RunHelpBox(std::string_view description, std::string_view label);
+
+    // Reports a failure of `procedure` in the form and with the label its table row gives.
+    void report(Procedure procedure, const Failure& failure);
+
+  private:
+    void showErrorBody(const std::string& description, const std::string& label);
+
+    MessageBoxes& boxes_;
+    Application& application_;
+    Speech* speech_ = nullptr;
+    // Set while ShowError speaks a report: a speech failure then is the report's own and is
+    // not reported again, or a broken speech service would report without end.
+    bool speakingReport_ = false;
+};
+
+}  // namespace marivox

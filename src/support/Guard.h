@@ -1,0 +1,51 @@
+#pragma once
+
+#include <exception>
+#include <functional>
+#include <utility>
+
+#include "support/ErrorReports.h"
+#include "support/Failure.h"
+#include "support/FaultInjector.h"
+#include "support/Procedures.h"
+
+namespace marivox {
+
+// What a guarded procedure does around its report: a timer handler switches its timer off
+// before reporting; the game screen's unload handler ends the program after it.
+struct FailureSteps {
+    std::function<void()> beforeReport;
+    std::function<void()> afterReport;
+};
+
+// Runs a procedure's body so that a failure inside it is reported at once and the rest of
+// the body is abandoned; the caller carries on as if the call had succeeded.
+class Guard {
+  public:
+    explicit Guard(ErrorReports& reports) : reports_(reports) {}
+
+    void setFaultInjector(FaultInjector* faults) { faults_ = faults; }
+    ErrorReports& reports() { return reports_; }
+
+    template <class Body>
+    void run(Procedure procedure, Body&& body, const FailureSteps& steps = {}) {
+        try {
+            if (faults_ != nullptr) {
+                faults_->enter(procedure);
+            }
+            std::forward<Body>(body)();
+        } catch (const Failure& failure) {
+            handle(procedure, failure, steps);
+        } catch (const std::exception& failure) {
+            handle(procedure, Failure(FailureNumber::Internal, failure.what()), steps);
+        }
+    }
+
+  private:
+    void handle(Procedure procedure, const Failure& failure, const FailureSteps& steps);
+
+    ErrorReports& reports_;
+    FaultInjector* faults_ = nullptr;
+};
+
+}  // namespace marivox
