@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+
+namespace marivox {
+
+// Key codes as the game screen's key handler receives them.
+namespace KeyCode {
+inline constexpr std::int16_t Back = 8;
+inline constexpr std::int16_t Tab = 9;
+inline constexpr std::int16_t Return = 13;
+inline constexpr std::int16_t Shift = 16;
+inline constexpr std::int16_t Control = 17;
+inline constexpr std::int16_t Menu = 18;  // Alt
+inline constexpr std::int16_t Escape = 27;
+inline constexpr std::int16_t Space = 32;
+inline constexpr std::int16_t PageUp = 33;
+inline constexpr std::int16_t PageDown = 34;
+inline constexpr std::int16_t End = 35;
+inline constexpr std::int16_t Home = 36;
+inline constexpr std::int16_t Left = 37;
+inline constexpr std::int16_t Up = 38;
+inline constexpr std::int16_t Right = 39;
+inline constexpr std::int16_t Down = 40;
+inline constexpr std::int16_t Insert = 45;
+inline constexpr std::int16_t Delete = 46;
+// Digits are 48..57 and letters 65..90, as their upper-case character codes.
+inline constexpr std::int16_t F1 = 112;
+inline constexpr std::int16_t F2 = 113;
+// F3..F12 follow F2 in order, up to 123.
+}  // namespace KeyCode
+
+// Shift state bits passed beside a key code.
+namespace ShiftState {
+inline constexpr std::int16_t Shift = 1;
+inline constexpr std::int16_t Control = 2;
+inline constexpr std::int16_t Alt = 4;
+}  // namespace ShiftState
+
+}  // namespace marivox

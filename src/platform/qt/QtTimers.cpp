@@ -1,0 +1,49 @@
+#include "platform/qt/QtTimers.h"
+
+#include <QTimer>
+
+namespace marivox::qt {
+namespace {
+
+class QtOneShotTimer : public OneShotTimer {
+  public:
+    QtOneShotTimer(std::chrono::milliseconds interval, std::function<void()> onTick)
+        : onTick_(std::move(onTick)) {
+        timer_.setSingleShot(true);
+        timer_.setTimerType(Qt::PreciseTimer);
+        timer_.setInterval(interval);
+        QObject::connect(&timer_, &QTimer::timeout, [this] {
+            if (on_) {
+                onTick_();
+            }
+        });
+    }
+
+    void switchOn() override {
+        if (on_) {
+            return;  // already counting: the interval is not restarted
+        }
+        on_ = true;
+        timer_.start();
+    }
+    void switchOff() override {
+        on_ = false;
+        timer_.stop();
+    }
+    bool isOn() const override { return on_; }
+
+  private:
+    std::function<void()> onTick_;
+    QTimer timer_;
+    bool on_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<OneShotTimer> QtTimerFactory::createTimer(std::string_view,
+                                                          std::chrono::milliseconds interval,
+                                                          std::function<void()> onTick) {
+    return std::make_unique<QtOneShotTimer>(interval, std::move(onTick));
+}
+
+}  // namespace marivox::qt
