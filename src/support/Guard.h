@@ -16,6 +16,9 @@ namespace marivox {
 struct FailureSteps {
     std::function<void()> beforeReport;
     std::function<void()> afterReport;
+
+    static FailureSteps before(std::function<void()> step) { return {std::move(step), {}}; }
+    static FailureSteps after(std::function<void()> step) { return {{}, std::move(step)}; }
 };
 
 // Runs a procedure's body so that a failure inside it is reported at once and the rest of

@@ -57,6 +57,13 @@ void FakeGrid::setTextMatrix(int row, int col, std::string_view text) {
     cells_[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)] = text;
 }
 
+void FakeGrid::setCellBackColor(Rgb colour) {
+    if (recordColours) {
+        transcript_.record("grid colours " + std::to_string(row_) + "," + std::to_string(col_));
+    }
+    cellBack_[{row_, col_}] = colour;
+}
+
 void FakeGrid::playerMovesTo(int row, int col) {
     checkCell(row, col);
     const bool moved = row != row_ || col != col_;

@@ -41,8 +41,11 @@ class FakeGrid : public GridControl {
     void setBackColor(Rgb colour) override { back_ = colour; }
     Rgb foreColor() const override { return fore_; }
     void setForeColor(Rgb colour) override { fore_ = colour; }
-    void setCellBackColor(Rgb colour) override { cellBack_[{row_, col_}] = colour; }
+    void setCellBackColor(Rgb colour) override;
     void setCellForeColor(Rgb colour) override { cellFore_[{row_, col_}] = colour; }
+
+    // Also record `grid colours <row>,<col>` for every cursor cell coloured.
+    bool recordColours = false;
 
     // What a player does: one cursor move (one event), or a click that moves and fires.
     void playerMovesTo(int row, int col);

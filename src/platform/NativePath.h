@@ -1,0 +1,17 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+
+namespace marivox {
+
+// The game names its files with a leading backslash ("\shoot.wav") after the program
+// folder; on this platform the separator may be another.
+inline std::string nativePath(std::string path) {
+#ifndef _WIN32
+    std::replace(path.begin(), path.end(), '\\', '/');
+#endif
+    return path;
+}
+
+}  // namespace marivox

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <chrono>
+
+namespace marivox {
+
+// Holds the calling thread for a while.
+class Sleeper {
+  public:
+    virtual ~Sleeper() = default;
+    virtual void sleepFor(std::chrono::milliseconds duration) = 0;
+};
+
+}  // namespace marivox

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "hal/HalShots.h"
+#include "hal/TargetSelection.h"
+#include "model/Boards.h"
+#include "model/Placement.h"
+#include "model/PlayerShots.h"
+#include "platform/GridControl.h"
+#include "platform/OneShotTimer.h"
+#include "platform/Windows.h"
+
+namespace marivox {
+
+class AboutForm;
+class Application;
+class Guard;
+class HelpCommands;
+class MessageBoxes;
+class RandomSource;
+class ScreenReaderChoice;
+class Sounds;
+class Speech;
+struct GameState;
+struct ScreenReaderState;
+
+// What the game screen works with besides its own window.
+struct GameScreenServices {
+    GameState& state;
+    Guard& guard;
+    Speech& speech;
+    Sounds& sounds;
+    RandomSource& random;
+    ScreenReaderState& reader;
+    ScreenReaderChoice& readerChoice;
+    HelpCommands& help;
+    AboutForm& about;
+    GameWindow& window;
+    TimerFactory& timers;
+    MessageBoxes& boxes;
+    Application& application;
+};
+
+// The game screen: beginning a game, the turn cycle paced by its four timers, the board
+// grid and its spoken cursor, keys and menu commands. Its window reports events here.
+class GameScreen : public GameScreenEvents, public GridEvents {
+  public:
+    explicit GameScreen(const GameScreenServices& services);
+
+    // The window's two flags.
+    std::int16_t GameInProgress = 0;
+    std::int16_t SettingUp = 0;
+
+    void BeginGame();
+    void LoadGrid();
+    void SpeakCurrentCell();
+    void SpeakStatus();
+
+    // Window events.
+    void Form_Load() override;
+    void Form_Unload(std::int16_t& cancel) override;
+    void Form_KeyDown(std::int16_t keyCode, std::int16_t shift) override;
+    void mnuGameNew_Click() override;
+    void mnuGameReader_Click() override;
+    void mnuGameExit_Click() override;
+    void mnuOptionsStatus_Click() override;
+    void mnuOptionsShoot_Click() override;
+    void mnuHelpContents_Click() override;
+    void mnuHelpAbout_Click() override;
+
+    // Grid events.
+    void flex_Click();
+    void flex_RowColChange();
+    void onClick() override { flex_Click(); }
+    void onRowColChange() override { flex_RowColChange(); }
+
+    // Timer handlers.
+    void tmrStartDelay_Timer();
+    void tmrHalDelay_Timer();
+    void tmrTimer1_Timer();
+    void tmrTimer2_Timer();
+
+    OneShotTimer& tmrStartDelay() { return *tmrStartDelay_; }
+    OneShotTimer& tmrHalDelay() { return *tmrHalDelay_; }
+    OneShotTimer& tmrTimer1() { return *tmrTimer1_; }
+    OneShotTimer& tmrTimer2() { return *tmrTimer2_; }
+
+  private:
+    std::string turnReminder();
+    std::string cursorCellName();
+    // Asks whether to play again after a win; No ends the program at once.
+    void askToPlayAgain(std::string_view question);
+    void releaseWindowEyesIfChosen();
+    void runTimerHandler(Procedure procedure, OneShotTimer& timer,
+                         const std::function<void()>& body);
+
+    GameScreenServices services_;
+    GameState& state_;
+    Guard& guard_;
+    Speech& speech_;
+    Sounds& sounds_;
+    GridControl& flex_;
+    std::unique_ptr<OneShotTimer> tmrStartDelay_;
+    std::unique_ptr<OneShotTimer> tmrHalDelay_;
+    std::unique_ptr<OneShotTimer> tmrTimer1_;
+    std::unique_ptr<OneShotTimer> tmrTimer2_;
+    Boards boards_;
+    Placement placement_;
+    PlayerShots playerShots_;
+    TargetSelection targeting_;
+    HalShots halShots_;
+};
+
+}  // namespace marivox

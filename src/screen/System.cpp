@@ -1,0 +1,28 @@
+#include "screen/System.h"
+
+namespace marivox {
+
+System::System(const PlatformPorts& p, std::uint64_t seed)
+    : ports(p),
+      reports(p.boxes, p.application),
+      guard(reports),
+      generator(p.clock, seed),
+      random(generator, guard),
+      speech(reader, p.jaws, guard),
+      sounds(p.wavPlayer, p.application, p.sleeper, guard),
+      readerChoice(reader, p.settings, p.automation, p.readerDialog, p.boxes, guard),
+      help(p.application, p.shell, p.boxes, guard),
+      about(p.aboutBox, p.application),
+      screen({state, guard, speech, sounds, random, reader, readerChoice, help, about, p.window,
+              p.timers, p.boxes, p.application}) {
+    reports.attachSpeech(speech);
+}
+
+void System::Main() {
+    ports.window.load(screen);
+    ports.window.show();
+    readerChoice.GetScreenReader();
+    screen.BeginGame();
+}
+
+}  // namespace marivox

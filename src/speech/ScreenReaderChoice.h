@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/Windows.h"
+
+namespace marivox {
+
+class AutomationObjects;
+class Guard;
+class MessageBoxes;
+class SettingsStore;
+struct ScreenReaderState;
+
+// The player's choice of screen reader: read at start-up (asking when nothing is stored),
+// stored after every choice, and the dialog in which the player makes it.
+class ScreenReaderChoice : public ReaderDialogEvents {
+  public:
+    ScreenReaderChoice(ScreenReaderState& reader, SettingsStore& settings,
+                       AutomationObjects& automation, ReaderDialog& dialog, MessageBoxes& boxes,
+                       Guard& guard)
+        : reader_(reader),
+          settings_(settings),
+          automation_(automation),
+          dialog_(dialog),
+          boxes_(boxes),
+          guard_(guard) {}
+
+    void GetScreenReader();
+    void SaveScreenReader();
+    // The Screen Reader menu command's steps; the game screen guards them.
+    void chooseAgain();
+
+    // The dialog's handlers.
+    void Form_Load() override;
+    void btnOK_Click() override;
+    void Form_Unload(std::int16_t& cancel) override;
+
+  private:
+    std::string readSetting();
+    void createSpeechObjectIfChosen();
+
+    ScreenReaderState& reader_;
+    SettingsStore& settings_;
+    AutomationObjects& automation_;
+    ReaderDialog& dialog_;
+    MessageBoxes& boxes_;
+    Guard& guard_;
+};
+
+}  // namespace marivox

@@ -1,0 +1,37 @@
+#include "speech/WavSounds.h"
+
+#include <chrono>
+#include <string>
+
+#include "platform/Application.h"
+#include "platform/NativePath.h"
+#include "platform/Sleeper.h"
+#include "platform/WavPlayer.h"
+#include "support/Guard.h"
+
+namespace marivox {
+namespace {
+
+// A busy output delays a sound; if it stays busy this long (another program holding the
+// device for good) the sound is given up silently rather than freezing the game.
+constexpr auto kRetryPause = std::chrono::milliseconds(5);
+constexpr int kMaxRetries = 600;
+
+}  // namespace
+
+void WavSounds::PlaySound(std::string_view name) {
+    guard_.run(Procedure::PlaySound, [&] {
+        std::string path = application_.programFolder();
+        path += name;
+        player_.open(nativePath(path));
+        player_.play(0, -1, true);
+        for (int retry = 0; player_.status() == WavPlayer::kDeviceBusy && retry < kMaxRetries;
+             ++retry) {
+            sleeper_.sleepFor(kRetryPause);
+            player_.play(0, -1, true);
+        }
+        player_.closeSound();
+    });
+}
+
+}  // namespace marivox
