@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/ScreenReaders.h"
+#include "platform/speechd/SpeechdConnection.h"
+
+namespace marivox::speechd {
+
+// The "JFW" choice on Linux: like the JAWS library it is loaded, here connected, at its
+// first call, and it speaks through speech-dispatcher.
+class SpeechdJawsApi : public JawsApi {
+  public:
+    void JFWSayString(std::string_view text, bool interrupt) override;
+    void JFWStopSpeech() override;
+
+  private:
+    SpeechdConnection connection_;
+};
+
+// The "WE" choice on Linux: creating the speech object connects to speech-dispatcher at
+// once, so a missing service is reported when the player makes the choice.
+class SpeechdAutomationObjects : public AutomationObjects {
+  public:
+    std::unique_ptr<SpeechAutomationObject> CreateObject(std::string_view className) override;
+};
+
+}  // namespace marivox::speechd
