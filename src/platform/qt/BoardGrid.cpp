@@ -1,0 +1,283 @@
+#include "platform/qt/BoardGrid.h"
+
+#include <QHeaderView>
+#include <algorithm>
+
+#include "model/Ships.h"
+#include "platform/qt/Twips.h"
+#include "support/Failure.h"
+
+namespace marivox::qt {
+namespace {
+
+QColor toQColor(Rgb c) {
+    return {c.red, c.green, c.blue};
+}
+
+QString fromUtf8(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+[[noreturn]] void outOfRange(const char* what) {
+    throw Failure(FailureNumber::IndexOutOfRange,
+                  std::string("Board grid ") + what + " out of range");
+}
+
+}  // namespace
+
+BoardGrid::BoardGrid(QWidget* parent) : QTableWidget(parent) {
+    setObjectName("flex");
+    setAccessibleName("Board");
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionBehavior(QAbstractItemView::SelectItems);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setSectionsClickable(false);
+    verticalHeader()->setSectionsClickable(false);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->setHighlightSections(false);
+
+    connect(this, &QTableWidget::currentCellChanged, this,
+            [this](int row, int col, int previousRow, int previousCol) {
+                if (!quiet_ && events_ != nullptr && row >= 0 &&
+                    (row != previousRow || col != previousCol)) {
+                    events_->onRowColChange();
+                }
+            });
+    connect(this, &QTableWidget::cellClicked, this, [this](int, int) {
+        if (events_ != nullptr) {
+            events_->onClick();
+        }
+    });
+    reshape();
+}
+
+QString BoardGrid::accessibleCellText(int row, int col, const QString& mark) {
+    QString text = QString(QChar('A' + row - 1)) + " " + QString::number(col);
+    const std::string letter = mark.trimmed().toStdString();
+    if (letter == "M") {
+        text += ", miss";
+    } else if (const auto ship = shipWithLetter(letter)) {
+        text += ", " + fromUtf8(shipInfo(*ship).cursorText).trimmed();
+    }
+    return text;
+}
+
+void BoardGrid::reshape() {
+    quiet_ = true;
+    const int playingRows = rows_ - fixedRows_;
+    const int playingCols = cols_ - fixedCols_;
+    setRowCount(playingRows);
+    setColumnCount(playingCols);
+    horizontalHeader()->setVisible(fixedRows_ == 1);
+    verticalHeader()->setVisible(fixedCols_ == 1);
+    for (int r = 0; r < playingRows; ++r) {
+        if (verticalHeaderItem(r) == nullptr) {
+            setVerticalHeaderItem(r, new QTableWidgetItem(QString()));
+        }
+        for (int c = 0; c < playingCols; ++c) {
+            if (item(r, c) == nullptr) {
+                auto* cell = new QTableWidgetItem(QString());
+                cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+                cell->setData(Qt::AccessibleTextRole,
+                              accessibleCellText(r + fixedRows_, c + fixedCols_, QString()));
+                setItem(r, c, cell);
+            }
+        }
+    }
+    for (int c = 0; c < playingCols; ++c) {
+        if (horizontalHeaderItem(c) == nullptr) {
+            setHorizontalHeaderItem(c, new QTableWidgetItem(QString()));
+        }
+    }
+    // A table with no current cell is fragile under screen readers: there always is one.
+    if (currentRow() < 0 || currentColumn() < 0) {
+        setCurrentCell(0, 0);
+    }
+    quiet_ = false;
+    fitLines();
+}
+
+void BoardGrid::fitLines() {
+    QHeaderView* top = horizontalHeader();
+    QHeaderView* left = verticalHeader();
+    if (headingRowPixels_ >= 0) {
+        top->setFixedHeight(headingRowPixels_);
+    } else {
+        top->setMinimumHeight(0);
+        top->setMaximumHeight(QWIDGETSIZE_MAX);
+    }
+    if (headingColPixels_ >= 0) {
+        left->setFixedWidth(headingColPixels_);
+    } else {
+        left->setMinimumWidth(0);
+        left->setMaximumWidth(QWIDGETSIZE_MAX);
+    }
+    // The playing lines share what the headings leave, as far as the window shows the grid.
+    const int visibleWidth =
+        parentWidget() != nullptr ? std::min(width(), parentWidget()->width() - x()) : width();
+    const int headingWidth = left->isVisible() ? left->width() : 0;
+    const int headingHeight = top->isVisible() ? top->height() : 0;
+    const int lineMinimum = fontMetrics().height() + 2;
+    if (columnCount() > 0) {
+        const int each =
+            std::max(lineMinimum, (visibleWidth - headingWidth - 2 * frameWidth()) / columnCount());
+        top->setDefaultSectionSize(each);
+        for (int c = 0; c < columnCount(); ++c) {
+            setColumnWidth(c, each);
+        }
+    }
+    if (rowCount() > 0) {
+        const int each =
+            std::max(lineMinimum, (height() - headingHeight - 2 * frameWidth()) / rowCount());
+        left->setDefaultSectionSize(each);
+        for (int r = 0; r < rowCount(); ++r) {
+            QTableWidget::setRowHeight(r, each);
+        }
+    }
+}
+
+void BoardGrid::resizeEvent(QResizeEvent* event) {
+    QTableWidget::resizeEvent(event);
+    fitLines();
+}
+
+void BoardGrid::setRows(int rows) {
+    if (rows <= fixedRows_) {
+        outOfRange("row count");
+    }
+    rows_ = rows;
+    reshape();
+}
+
+void BoardGrid::setCols(int cols) {
+    if (cols <= fixedCols_) {
+        outOfRange("column count");
+    }
+    cols_ = cols;
+    reshape();
+}
+
+void BoardGrid::setFixedRows(int rows) {
+    if (rows < 0 || rows > 1 || rows >= rows_) {
+        outOfRange("fixed row count");
+    }
+    fixedRows_ = rows;
+    reshape();
+}
+
+void BoardGrid::setFixedCols(int cols) {
+    if (cols < 0 || cols > 1 || cols >= cols_) {
+        outOfRange("fixed column count");
+    }
+    fixedCols_ = cols;
+    reshape();
+}
+
+// Only the heading lines keep a size of their own; the playing lines share the rest.
+void BoardGrid::setRowHeight(int row, int size) {
+    if (row == 0 || row == kAllLines) {
+        headingRowPixels_ = size == kDefaultSize ? -1 : twips(size);
+    } else if (row < 0 || row >= rows_) {
+        outOfRange("row");
+    }
+    fitLines();
+}
+
+void BoardGrid::setColWidth(int col, int size) {
+    if (col == 0 || col == kAllLines) {
+        headingColPixels_ = size == kDefaultSize ? -1 : twips(size);
+    } else if (col < 0 || col >= cols_) {
+        outOfRange("column");
+    }
+    fitLines();
+}
+
+void BoardGrid::checkCell(int row, int col) const {
+    if (row < 0 || row >= rows_ || col < 0 || col >= cols_) {
+        outOfRange("cell");
+    }
+}
+
+QTableWidgetItem* BoardGrid::itemAt(int row, int col) const {
+    checkCell(row, col);
+    if (row < fixedRows_ && col < fixedCols_) {
+        return nullptr;
+    }
+    if (row < fixedRows_) {
+        return horizontalHeaderItem(col - fixedCols_);
+    }
+    if (col < fixedCols_) {
+        return verticalHeaderItem(row - fixedRows_);
+    }
+    return item(row - fixedRows_, col - fixedCols_);
+}
+
+std::string BoardGrid::textMatrix(int row, int col) const {
+    const QTableWidgetItem* cell = itemAt(row, col);
+    return (cell != nullptr ? cell->text() : corner_).toStdString();
+}
+
+void BoardGrid::setTextMatrix(int row, int col, std::string_view text) {
+    QTableWidgetItem* cell = itemAt(row, col);
+    const QString value = fromUtf8(text);
+    if (cell == nullptr) {
+        corner_ = value;
+        return;
+    }
+    cell->setText(value);
+    if (row >= fixedRows_ && col >= fixedCols_) {
+        cell->setData(Qt::AccessibleTextRole, accessibleCellText(row, col, value));
+    }
+}
+
+void BoardGrid::moveCursor(int row, int col) {
+    if (row < fixedRows_ || col < fixedCols_) {
+        outOfRange("cursor");
+    }
+    checkCell(row, col);
+    setCurrentCell(row - fixedRows_, col - fixedCols_);
+}
+
+void BoardGrid::setRow(int row) {
+    moveCursor(row, col());
+}
+
+void BoardGrid::setCol(int col) {
+    moveCursor(row(), col);
+}
+
+void BoardGrid::setBackColor(Rgb colour) {
+    back_ = colour;
+    QPalette p = palette();
+    p.setColor(QPalette::Base, toQColor(colour));
+    p.setColor(QPalette::Window, toQColor(colour));
+    setPalette(p);
+}
+
+void BoardGrid::setForeColor(Rgb colour) {
+    fore_ = colour;
+    QPalette p = palette();
+    p.setColor(QPalette::Text, toQColor(colour));
+    setPalette(p);
+}
+
+void BoardGrid::setCellBackColor(Rgb colour) {
+    if (QTableWidgetItem* cell = itemAt(row(), col())) {
+        cell->setBackground(toQColor(colour));
+    }
+}
+
+void BoardGrid::setCellForeColor(Rgb colour) {
+    if (QTableWidgetItem* cell = itemAt(row(), col())) {
+        cell->setForeground(toQColor(colour));
+    }
+}
+
+}  // namespace marivox::qt

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <QTableWidget>
+#include <string>
+
+#include "platform/GridControl.h"
+
+namespace marivox::qt {
+
+// The board: a table whose heading row and column are real header views, so the cursor
+// can only stand on playing cells and a screen reader hears row and column headers. Each
+// playing cell's accessible text says what a sighted player sees ("C 4, miss").
+class BoardGrid : public QTableWidget, public GridControl {
+    Q_OBJECT
+  public:
+    explicit BoardGrid(QWidget* parent = nullptr);
+
+    void setListener(GridEvents* events) override { events_ = events; }
+
+    int rows() const override { return rows_; }
+    void setRows(int rows) override;
+    int cols() const override { return cols_; }
+    void setCols(int cols) override;
+    void setFixedRows(int rows) override;
+    void setFixedCols(int cols) override;
+    void setRowHeight(int row, int twips) override;
+    void setColWidth(int col, int twips) override;
+
+    int row() const override { return currentRow() + fixedRows_; }
+    void setRow(int row) override;
+    int col() const override { return currentColumn() + fixedCols_; }
+    void setCol(int col) override;
+
+    std::string text() const override { return textMatrix(row(), col()); }
+    std::string textMatrix(int row, int col) const override;
+    void setTextMatrix(int row, int col, std::string_view text) override;
+
+    Rgb backColor() const override { return back_; }
+    void setBackColor(Rgb colour) override;
+    Rgb foreColor() const override { return fore_; }
+    void setForeColor(Rgb colour) override;
+    void setCellBackColor(Rgb colour) override;
+    void setCellForeColor(Rgb colour) override;
+
+    // What a sighted player reads in a playing cell, for assistive technology.
+    static QString accessibleCellText(int row, int col, const QString& mark);
+
+    // Typing a letter must not jump the cursor to a cell showing that letter.
+    void keyboardSearch(const QString&) override {}
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    void reshape();
+    void fitLines();
+    void checkCell(int row, int col) const;
+    QTableWidgetItem* itemAt(int row, int col) const;
+    void moveCursor(int row, int col);
+
+    GridEvents* events_ = nullptr;
+    int rows_ = 2;
+    int cols_ = 2;
+    int fixedRows_ = 1;
+    int fixedCols_ = 1;
+    int headingRowPixels_ = -1;  // -1: the control's own size
+    int headingColPixels_ = -1;
+    QString corner_;
+    bool quiet_ = false;  // reshaping, not a cursor move
+    Rgb back_{255, 255, 255};
+    Rgb fore_{0, 0, 0};
+};
+
+}  // namespace marivox::qt

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+
+#include "platform/Windows.h"
+#include "platform/qt/BoardGrid.h"
+
+class QAction;
+class QLabel;
+
+namespace marivox::qt {
+
+class QtApplication;
+
+// The game screen window: the board, the legend, the menu bar. It sees every key of its
+// own controls before they do (and never swallows it), and asks Form_Unload before closing.
+class GameWindowQt : public QMainWindow, public GameWindow {
+    Q_OBJECT
+  public:
+    // `openHelp` opens the application's help document: what the platform's help key does.
+    GameWindowQt(QtApplication& application, std::function<void()> openHelp);
+    ~GameWindowQt() override;
+
+    void load(GameScreenEvents& events) override;
+    void show() override { QMainWindow::show(); }
+    void unload() override { close(); }
+    void unloadOtherWindows() override;
+    GridControl& grid() override { return *grid_; }
+
+    BoardGrid& board() { return *grid_; }
+    QAction* action(const char* name) const;
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void buildMenus();
+    void buildLabels();
+    bool isOwnControl(QObject* object) const;
+
+    QtApplication& application_;
+    std::function<void()> openHelp_;
+    GameScreenEvents* events_ = nullptr;
+    BoardGrid* grid_;
+};
+
+}  // namespace marivox::qt

@@ -1,0 +1,77 @@
+#include "platform/qt/KeyMapping.h"
+
+#include "platform/KeyCodes.h"
+
+namespace marivox::qt {
+
+std::int16_t gameKeyCode(const QKeyEvent& event) {
+    const int key = event.key();
+    if (key >= Qt::Key_A && key <= Qt::Key_Z) {
+        return static_cast<std::int16_t>('A' + (key - Qt::Key_A));
+    }
+    if (key >= Qt::Key_0 && key <= Qt::Key_9) {
+        return static_cast<std::int16_t>('0' + (key - Qt::Key_0));
+    }
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F12) {
+        return static_cast<std::int16_t>(KeyCode::F1 + (key - Qt::Key_F1));
+    }
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return KeyCode::Return;
+        case Qt::Key_Left:
+            return KeyCode::Left;
+        case Qt::Key_Up:
+            return KeyCode::Up;
+        case Qt::Key_Right:
+            return KeyCode::Right;
+        case Qt::Key_Down:
+            return KeyCode::Down;
+        case Qt::Key_Shift:
+            return KeyCode::Shift;
+        case Qt::Key_Control:
+            return KeyCode::Control;
+        case Qt::Key_Alt:
+            return KeyCode::Menu;
+        case Qt::Key_Escape:
+            return KeyCode::Escape;
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            return KeyCode::Tab;
+        case Qt::Key_Backspace:
+            return KeyCode::Back;
+        case Qt::Key_Space:
+            return KeyCode::Space;
+        case Qt::Key_PageUp:
+            return KeyCode::PageUp;
+        case Qt::Key_PageDown:
+            return KeyCode::PageDown;
+        case Qt::Key_Home:
+            return KeyCode::Home;
+        case Qt::Key_End:
+            return KeyCode::End;
+        case Qt::Key_Insert:
+            return KeyCode::Insert;
+        case Qt::Key_Delete:
+            return KeyCode::Delete;
+        default:
+            // Any other key still counts as a key: it silences speech in the player's turn.
+            return static_cast<std::int16_t>(event.nativeVirtualKey() & 0xFF);
+    }
+}
+
+std::int16_t gameShiftState(Qt::KeyboardModifiers modifiers) {
+    std::int16_t state = 0;
+    if (modifiers & Qt::ShiftModifier) {
+        state |= ShiftState::Shift;
+    }
+    if (modifiers & Qt::ControlModifier) {
+        state |= ShiftState::Control;
+    }
+    if (modifiers & Qt::AltModifier) {
+        state |= ShiftState::Alt;
+    }
+    return state;
+}
+
+}  // namespace marivox::qt

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QGuiApplication>
+#include <QRect>
+#include <QScreen>
+#include <cmath>
+
+namespace marivox::qt {
+
+// Places and sizes are given in twips (1440 to the inch) and drawn at the screen's DPI.
+inline int twips(int value) {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double dpi = screen != nullptr ? screen->logicalDotsPerInch() : 96.0;
+    return static_cast<int>(std::lround(value * dpi / 1440.0));
+}
+
+inline QRect twipsRect(int left, int top, int width, int height) {
+    return {twips(left), twips(top), twips(width), twips(height)};
+}
+
+}  // namespace marivox::qt
