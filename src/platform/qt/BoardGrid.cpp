@@ -85,6 +85,7 @@ void BoardGrid::reshape() {
             if (item(r, c) == nullptr) {
                 auto* cell = new QTableWidgetItem(QString());
                 cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+                cell->setTextAlignment(Qt::AlignCenter);
                 cell->setData(Qt::AccessibleTextRole,
                               accessibleCellText(r + fixedRows_, c + fixedCols_, QString()));
                 setItem(r, c, cell);

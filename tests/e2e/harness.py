@@ -1,0 +1,339 @@
+"""A private desktop session in which the real Marivox runs as a blind player meets it.
+
+Each Session starts its own X server (Xvfb), D-Bus session with the accessibility bus,
+speech-dispatcher that records every utterance, PulseAudio whose sink writes to a FIFO, and
+settings folder; then the game. Every process it starts is stopped by its id when the
+session ends, whether the test passed or not.
+"""
+
+import array
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import threading
+import time
+import wave
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+SOURCE = os.path.dirname(os.path.dirname(HERE))
+BUILD = os.environ.get("MARIVOX_BUILD_DIR", os.path.join(SOURCE, "build"))
+SAMPLE_RATE = 44100
+SOUNDS = ["begin", "sonar", "shoot", "hit", "sink", "youwin1", "youwin2", "laugh1", "end"]
+
+
+class SessionError(RuntimeError):
+    pass
+
+
+def wait_until(condition, timeout, interval=0.02):
+    deadline = time.monotonic() + timeout
+    while time.monotonic() < deadline:
+        value = condition()
+        if value:
+            return value
+        time.sleep(interval)
+    return condition()
+
+
+class Session:
+    def __init__(self, stored_reader="JFW", speech=True, audio=True, program=None):
+        self.stored_reader = stored_reader
+        self.with_speech = speech
+        self.with_audio = audio
+        self.program = program or os.path.join(BUILD, "marivox")
+        self.dir = tempfile.mkdtemp(prefix="marivox-e2e-")
+        self.processes = []  # (name, Popen), stopped in reverse order
+        self.env = {}
+        self.game = None
+        self.recording = bytearray()
+        self._recorder = None
+
+    # -- the session --------------------------------------------------------------------
+
+    def __enter__(self):
+        try:
+            self._start_x()
+            self._start_dbus()
+            if self.with_speech:
+                self._start_speech()
+            if self.with_audio:
+                self._start_audio()
+            self._write_settings()
+        except BaseException:
+            self.close()
+            raise
+        return self
+
+    def __exit__(self, *exc):
+        self.close()
+
+    def _spawn(self, name, argv, **kwargs):
+        process = subprocess.Popen(argv, start_new_session=True, **kwargs)
+        self.processes.append((name, process))
+        return process
+
+    def _base_env(self):
+        env = {
+            "PATH": "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin",
+            "HOME": os.path.join(self.dir, "home"),
+            "XDG_RUNTIME_DIR": os.path.join(self.dir, "runtime"),
+            "XDG_CONFIG_HOME": os.path.join(self.dir, "config"),
+            "LANG": "C.UTF-8",
+        }
+        for folder in ("home", "runtime", "config"):
+            os.makedirs(os.path.join(self.dir, folder), mode=0o700, exist_ok=True)
+        env.update(self.env)
+        return env
+
+    def _start_x(self):
+        read_end, write_end = os.pipe()
+        self._spawn("Xvfb", ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1024x768x24",
+                             "-nolisten", "tcp", "-noreset"], pass_fds=(write_end,),
+                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(write_end)
+        with os.fdopen(read_end) as pipe:
+            display = pipe.readline().strip()
+        if not display:
+            raise SessionError("Xvfb gave no display number")
+        self.env["DISPLAY"] = ":" + display
+
+    def _start_dbus(self):
+        process = self._spawn("dbus", ["dbus-daemon", "--session", "--nofork", "--print-address=1"],
+                              stdout=subprocess.PIPE, env=self._base_env(), text=True)
+        address = process.stdout.readline().strip()
+        if not address:
+            raise SessionError("dbus-daemon gave no address")
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = address
+        # The accessibility bus, as a desktop session starts it.
+        self._spawn("at-spi", ["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"],
+                    env=self._base_env(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def _start_speech(self):
+        workdir = os.path.join(self.dir, "speechd")
+        os.makedirs(workdir)
+        out = subprocess.run([os.path.join(HERE, "speechd", "start-private-speechd"), workdir],
+                             capture_output=True, text=True, check=True, env=self._base_env())
+        values = dict(line.split("=", 1) for line in out.stdout.split())
+        pid = int(values["PID"])
+        self.processes.append(("speech-dispatcher", _Pid(pid)))
+        self.env["SPEECHD_ADDRESS"] = values["SPEECHD_ADDRESS"]
+        self.spoken_log = os.path.join(workdir, "spoken.log")
+
+    def _start_audio(self):
+        socket = os.path.join(self.dir, "pulse.sock")
+        self._spawn("pulseaudio", [
+            "pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
+            "--disable-shm=yes",
+            "--load=module-native-protocol-unix socket=%s auth-anonymous=1" % socket,
+            "--load=module-null-sink sink_name=recorder rate=%d channels=1" % SAMPLE_RATE,
+            "--load=module-always-sink",
+        ], env=self._base_env(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        if not wait_until(lambda: os.path.exists(socket), 10):
+            raise SessionError("PulseAudio did not start")
+        self.env["PULSE_SERVER"] = "unix:" + socket
+        # The null sink keeps real time; its monitor is what a listener would hear.
+        recorder = self._spawn("parec", [
+            "parec", "--raw", "--device=recorder.monitor", "--format=s16le",
+            "--rate=%d" % SAMPLE_RATE, "--channels=1", "--latency-msec=20",
+        ], env=self._base_env(), stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        self._recorder = threading.Thread(target=self._record, args=(recorder.stdout,),
+                                          daemon=True)
+        self._recorder.start()
+
+    def _record(self, stream):
+        # Silence is dropped as it comes, so a long session does not fill the memory.
+        try:
+            while True:
+                chunk = stream.read(4096)
+                if not chunk:
+                    return
+                if chunk.count(0) != len(chunk):
+                    self.recording.extend(chunk)
+        except (OSError, ValueError):
+            return
+
+    def _write_settings(self):
+        if self.stored_reader is None:
+            return
+        folder = os.path.join(self.dir, "config", "Marivox")
+        os.makedirs(folder, exist_ok=True)
+        with open(os.path.join(folder, "Marivox.conf"), "w") as conf:
+            conf.write("[StartUp]\nReader=%s\n" % self.stored_reader)
+
+    def close(self):
+        for name, process in reversed(self.processes):
+            _stop(process)
+        self.processes.clear()
+        self._stop_stragglers()
+        if getattr(self, "game_log", None) is not None:
+            self.game_log.close()
+        shutil.rmtree(self.dir, ignore_errors=True)
+
+    def _stop_stragglers(self):
+        """Stops what the session's programs started on their own (the help viewer leaves
+        the game's process group on purpose), found by the session folder in their
+        environment."""
+        marker = ("XDG_RUNTIME_DIR=" + os.path.join(self.dir, "runtime")).encode()
+        for entry in os.listdir("/proc"):
+            if not entry.isdigit() or int(entry) == os.getpid():
+                continue
+            try:
+                with open("/proc/%s/environ" % entry, "rb") as environ:
+                    if marker in environ.read().split(b"\0"):
+                        os.kill(int(entry), signal.SIGKILL)
+            except (OSError, ValueError):
+                continue
+
+    # -- the game -----------------------------------------------------------------------
+
+    def launch(self):
+        env = self._base_env()
+        env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        env["QT_ACCESSIBILITY"] = "1"
+        self.started_at = time.time()
+        self.game_log = open(os.path.join(self.dir, "game.log"), "w")
+        self.game = self._spawn("marivox", [self.program], env=env, stdout=self.game_log,
+                                stderr=subprocess.STDOUT)
+        return self.game
+
+    def window_id(self, name="Marivox", timeout=10):
+        def find():
+            out = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^%s$" % name],
+                                 capture_output=True, text=True, env=self._base_env())
+            ids = out.stdout.split()
+            return ids[-1] if ids else None
+        window = wait_until(find, timeout, 0.05)
+        if window is None:
+            raise SessionError("no window named %r appeared" % name)
+        return window
+
+    def keys(self, *names, window=None, delay_ms=40):
+        """Presses keys as a player does, into the window that has the focus."""
+        if window is not None:
+            subprocess.run(["xdotool", "windowfocus", "--sync", window], env=self._base_env(),
+                           check=False)
+        subprocess.run(["xdotool", "key", "--delay", str(delay_ms), *names],
+                       env=self._base_env(), check=True)
+
+    def close_window(self, window):
+        """The window's close button, as a window manager would press it."""
+        subprocess.run(["/usr/bin/python3", os.path.join(HERE, "close_window.py"), window],
+                       env=self._base_env(), check=True)
+
+    def game_ended(self, timeout):
+        try:
+            self.game.wait(timeout)
+            return True
+        except subprocess.TimeoutExpired:
+            return False
+
+    # -- what the player hears ----------------------------------------------------------
+
+    def spoken(self):
+        """Utterances so far, as (seconds since the game started, text)."""
+        result = []
+        try:
+            with open(self.spoken_log, "rb") as log:
+                for raw in log.read().decode("utf-8", "replace").split("\n"):
+                    if "|" in raw and raw.endswith("|"):
+                        stamp, text = raw[:-1].split("|", 1)
+                        result.append((float(stamp) - self.started_at, text))
+        except FileNotFoundError:
+            pass
+        return result
+
+    def texts(self):
+        return [text for _, text in self.spoken()]
+
+    def wait_for_text(self, text, timeout=15, after=0):
+        """Waits until `text` is spoken (after the first `after` utterances); its time."""
+        def found():
+            for stamp, said in self.spoken()[after:]:
+                if said == text:
+                    return (stamp,)
+            return None
+        hit = wait_until(found, timeout)
+        if hit is None:
+            raise AssertionError("never heard %r; heard %r" % (text, self.texts()))
+        return hit[0]
+
+    def wait_for_count(self, count, timeout=15):
+        wait_until(lambda: len(self.spoken()) >= count, timeout)
+        return self.texts()
+
+    def sounds_heard(self):
+        """Our sound effects found in the recording, in the order they were played."""
+        recorded = array.array("h", bytes(self.recording[: len(self.recording) // 2 * 2]))
+        data = recorded.tobytes()
+        found = []
+        for name in SOUNDS:
+            path = os.path.join(os.path.dirname(self.program), name + ".wav")
+            with wave.open(path, "rb") as sound:
+                samples = array.array("h", sound.readframes(sound.getnframes()))
+            # A stretch around the loudest sample identifies the sound exactly.
+            loudest = max(range(len(samples)), key=lambda i: abs(samples[i]))
+            middle = max(0, min(loudest - 128, len(samples) - 256))
+            probe = samples[middle: middle + 256].tobytes()
+            start = 0
+            while True:
+                at = data.find(probe, start)
+                if at < 0 or at % 2:
+                    if at < 0:
+                        break
+                    start = at + 1
+                    continue
+                found.append((at // 2 - middle, name))
+                start = at + len(probe)
+        return [name for _, name in sorted(found)]
+
+    def accessible_tree(self):
+        """The game's accessible objects as (depth, role, name) lines."""
+        out = subprocess.run(["/usr/bin/python3", os.path.join(HERE, "a11y_dump.py")],
+                             capture_output=True, text=True, env=self._base_env(), timeout=60)
+        return out.stdout.splitlines()
+
+    def screenshot(self, path):
+        dump = os.path.join(self.dir, "screen.xwd")
+        subprocess.run(["xwd", "-root", "-silent", "-out", dump], env=self._base_env(), check=True)
+        subprocess.run(["convert", dump, path], check=True)
+
+
+class _Pid:
+    """A process we did not start through Popen, known only by its id."""
+
+    def __init__(self, pid):
+        self.pid = pid
+
+    def poll(self):
+        try:
+            os.kill(self.pid, 0)
+            return None
+        except ProcessLookupError:
+            return 0
+
+    def wait(self, timeout=None):
+        if not wait_until(lambda: self.poll() is not None, timeout or 5):
+            raise subprocess.TimeoutExpired(str(self.pid), timeout)
+
+
+def _stop(process):
+    for stream in (getattr(process, "stdout", None), getattr(process, "stderr", None)):
+        if stream is not None:
+            stream.close()
+    if process.poll() is not None:
+        return
+    try:
+        os.killpg(process.pid, signal.SIGTERM) if isinstance(process, subprocess.Popen) \
+            else os.kill(process.pid, signal.SIGTERM)
+    except ProcessLookupError:
+        return
+    try:
+        process.wait(timeout=3)
+    except subprocess.TimeoutExpired:
+        try:
+            os.killpg(process.pid, signal.SIGKILL) if isinstance(process, subprocess.Popen) \
+                else os.kill(process.pid, signal.SIGKILL)
+        except ProcessLookupError:
+            pass

@@ -1,0 +1,188 @@
+"""Marivox played as a blind player meets it: the real program in a private desktop session,
+heard through a recording speech service and a recording sound server, read through the
+accessibility bus. Nothing here knows where the ships are: outcomes are read from what the
+game says. Delays are checked only from below (the computer never answers sooner than it
+should), so a slow machine cannot fail a test, only a wrong program can.
+"""
+
+import os
+import re
+import sys
+import time
+import unittest
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import harness  # noqa: E402
+
+PROMPT = [" press f 1 for help  ", " press f 2 for status  ",
+          " it is your turn, and you are located at A 1 "]
+CELL = r"[A-I]  [1-9]"
+PLAYER_RESULT = re.compile(r"^%s was (a miss|a hit on my .+)  $|^ You sank my .+  $" % CELL)
+TARGETING = re.compile(r"^It is my turn targeting (%s)$" % CELL)
+COMPUTER_RESULT = re.compile(r"^%s was (a miss|a hit on your .+)  $|^ I sank your .+  $" % CELL)
+
+
+class GameTest(unittest.TestCase):
+    stored_reader = "JFW"
+
+    def setUp(self):
+        self.session = harness.Session(stored_reader=self.stored_reader).__enter__()
+        self.addCleanup(self.session.close)
+
+    def start(self):
+        self.session.launch()
+        self.window = self.session.window_id()
+        self.session.wait_for_text(PROMPT[-1])
+
+    def settings_text(self):
+        path = os.path.join(self.session.dir, "config", "Marivox", "Marivox.conf")
+        with open(path) as conf:
+            return conf.read()
+
+
+class StartUp(GameTest):
+    stored_reader = None
+
+    def test_first_start_asks_for_the_reader_and_stores_the_choice(self):
+        self.session.launch()
+        dialog = self.session.window_id("Screen Reader")
+        self.assertEqual(self.session.texts(), [])  # nothing speaks before the choice
+        tree = "\n".join(self.session.accessible_tree())
+        self.assertIn("list item|JAWS For Windows", tree)
+        self.assertIn("list item|Window-Eyes", tree)
+        self.session.keys("Return", window=dialog)
+        self.session.wait_for_text(PROMPT[-1])
+        self.assertEqual(self.session.texts()[:3], PROMPT)
+        self.assertRegex(self.settings_text(), r"(?m)^Reader=JFW$")
+        harness.wait_until(lambda: "sonar" in self.session.sounds_heard(), 5)
+        self.assertEqual(self.session.sounds_heard()[:2], ["begin", "sonar"])
+
+
+class StoredChoice(GameTest):
+    def test_a_later_start_asks_nothing_and_prompts_once(self):
+        self.start()
+        time.sleep(1)
+        self.assertEqual(self.session.texts(), PROMPT)
+        tree = "\n".join(self.session.accessible_tree())
+        self.assertNotIn("dialog|Screen Reader", tree)
+
+    def test_cursor_moves_name_each_cell(self):
+        self.start()
+        self.session.keys("Down", "Right", "Right", "Up", window=self.window)
+        self.session.wait_for_count(len(PROMPT) + 4)
+        self.assertEqual(self.session.texts()[len(PROMPT):], ["B  1", "B  2", "B  3", "A  3"])
+
+    def test_status_at_the_start_is_two_counts_of_nothing(self):
+        self.start()
+        self.session.keys("F2", window=self.window)
+        self.session.wait_for_count(len(PROMPT) + 2)
+        self.assertEqual(self.session.texts()[len(PROMPT):],
+                         [" You have sank  0 of my ships.  ", " I have sank  0 of your ships.  "])
+
+
+class TurnCycle(GameTest):
+    def test_a_shot_and_the_computers_whole_turn(self):
+        self.start()
+        self.session.keys("Down", "Down", window=self.window)
+        self.session.wait_for_text("C  1")
+        heard = len(self.session.texts())
+        self.session.keys("Return", window=self.window)
+        shot = harness.wait_until(lambda: self.session.spoken()[heard:], 10)
+        shot_time, result = shot[0]
+        self.assertTrue(result.startswith("C  1 was ") or result.startswith(" You sank my "),
+                        result)
+        self.assertRegex(result, PLAYER_RESULT)
+
+        announcement_time = harness.wait_until(
+            lambda: next((t for t, s in self.session.spoken() if TARGETING.match(s)), None), 10)
+        announcement = next(s for _, s in self.session.spoken() if TARGETING.match(s))
+        target = TARGETING.match(announcement).group(1)
+        self.assertGreaterEqual(announcement_time - shot_time, 1.9)
+
+        # A miss sounds the same from either side: the answer is what follows the announcement.
+        answer = harness.wait_until(
+            lambda: next(((t, s) for t, s in self.session.spoken()
+                          if t > announcement_time and COMPUTER_RESULT.match(s)), None), 10)
+        self.assertGreaterEqual(answer[0] - announcement_time, 2.4)
+        if not answer[1].startswith(" I sank"):
+            self.assertTrue(answer[1].startswith(target + " was "), answer[1])
+
+        reminder = "It is your turn and you are located at C  1"
+        reminder_time = self.session.wait_for_text(reminder, 10)
+        self.assertGreaterEqual(reminder_time - answer[0], 1.9)
+        texts = self.session.texts()
+        self.assertEqual(texts[texts.index(announcement) + 1], answer[1])
+        self.assertLess(texts.index(announcement), texts.index(reminder))
+
+        sounds = self.session.sounds_heard()
+        self.assertEqual(sounds[:3], ["begin", "sonar", "shoot"])
+        self.assertIn(sounds.count("shoot"), (2,))
+
+    def test_a_key_in_the_reminder_window_drops_the_reminder(self):
+        self.start()
+        self.session.keys("Return", window=self.window)
+        harness.wait_until(lambda: any(TARGETING.match(s) for s in self.session.texts()), 10)
+        time.sleep(2.6)  # the computer has fired; the reminder is two seconds away
+        self.session.keys("shift", window=self.window)
+        time.sleep(3)
+        self.assertFalse(any(s.startswith("It is your turn and") for s in self.session.texts()))
+
+
+class Menus(GameTest):
+    def test_new_game_answered_no_then_yes(self):
+        self.start()
+        self.session.keys("ctrl+n", window=self.window)
+        time.sleep(0.5)
+        tree = "\n".join(self.session.accessible_tree())
+        self.assertIn("There is already a game in progress.", tree)
+        self.session.keys("Escape")
+        self.session.wait_for_text("It is your turn and you are located at A  1")
+
+        self.session.keys("ctrl+n", window=self.window)
+        time.sleep(0.5)
+        heard = len(self.session.texts())
+        self.session.keys("Return")
+        self.session.wait_for_text(PROMPT[0], after=heard)
+
+    def test_exit_answered_no_keeps_playing_and_yes_ends_with_the_end_sound(self):
+        self.start()
+        self.session.keys("alt+g", "x", window=self.window)
+        time.sleep(0.5)
+        self.session.keys("Escape")
+        self.session.wait_for_text("It is your turn and you are located at A  1")
+        self.assertFalse(self.session.game_ended(0.5))
+        self.session.keys("alt+g", "x", window=self.window)
+        time.sleep(0.5)
+        self.session.keys("Return")
+        self.assertTrue(self.session.game_ended(10))
+        self.assertEqual(self.session.game.returncode, 0)
+        harness.wait_until(lambda: "end" in self.session.sounds_heard(), 5)
+        self.assertEqual(self.session.sounds_heard()[-1], "end")
+
+    def test_closing_the_window_asks_like_exit(self):
+        self.start()
+        self.session.close_window(self.window)
+        time.sleep(0.5)
+        tree = "\n".join(self.session.accessible_tree())
+        self.assertIn("There is a game in progress.", tree)
+        self.session.keys("Return")
+        self.assertTrue(self.session.game_ended(10))
+
+    def test_about_box_and_help_window_open_and_can_be_read(self):
+        self.start()
+        self.session.keys("alt+h", "a", window=self.window)
+        about = self.session.window_id("About Marivox", timeout=5)
+        tree = "\n".join(self.session.accessible_tree())
+        self.assertIn("label|About Marivox", tree)
+        self.assertIn("label|Version 1.0.0", tree)
+        self.session.keys("Escape", window=about)
+        harness.wait_until(lambda: "Version 1.0.0" not in "\n".join(self.session.accessible_tree()),
+                           5)
+
+        self.session.keys("F1", window=self.window)
+        self.session.window_id("Marivox Help", timeout=10)
+        self.assertFalse(self.session.game_ended(0.2))
+
+
+if __name__ == "__main__":
+    unittest.main()
