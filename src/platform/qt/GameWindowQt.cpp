@@ -86,10 +86,10 @@ void GameWindowQt::buildMenus() {
         for (const MenuItem& item : menu.items) {
             QAction* action = submenu->addAction(item.caption);
             action->setObjectName(item.name);
-            const auto handler = item.handler;
-            connect(action, &QAction::triggered, this, [this, handler] {
+            // The menu tree is static, so the item outlives every connection to it.
+            connect(action, &QAction::triggered, this, [this, &item] {
                 if (events_ != nullptr) {
-                    (events_->*handler)();
+                    (events_->*item.handler)();
                 }
             });
         }

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/qt/audio/AudioOutput.h"
+#include "platform/qt/audio/StreamWavPlayer.h"
+
+namespace marivox::audio {
+
+// Streams to PulseAudio, the sound server of Debian's desktops (or the one PULSE_SERVER
+// names), through its simple blocking API.
+AudioConnector pulseConnector();
+
+// The game's WAV player on the desktop's sound server.
+std::unique_ptr<StreamWavPlayer> makePulseWavPlayer();
+
+}  // namespace marivox::audio

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Synth.h"
+
+namespace soundgen {
+
+struct Recipe {
+    std::string fileName;
+    Signal (*make)();
+};
+
+// The game's nine effects, by the file names the game asks for.
+const std::vector<Recipe>& recipes();
+
+}  // namespace soundgen
