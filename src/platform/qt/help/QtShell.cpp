@@ -15,7 +15,7 @@ void QtShell::ShellExecute(std::intptr_t, const char* operation, std::string_vie
     const QString path = QString::fromStdString(nativePath(std::string(file)));
     if (operation == nullptr && path.endsWith(".hlp", Qt::CaseInsensitive)) {
         const QString viewer = QString::fromStdString(viewerPath());
-        if (!QProcess::startDetached(viewer, {path})) {
+        if (!QProcess::startDetached(viewer, {path}, QString(), &lastViewer_)) {
             throw Failure(FailureNumber::Shell,
                           "The help viewer " + viewerPath() + " could not be started");
         }

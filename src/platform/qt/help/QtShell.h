@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtGlobal>
 #include <string>
 
 #include "platform/Shell.h"
@@ -16,9 +17,12 @@ class QtShell : public Shell {
                       const char* parameters, std::string_view directory, int showCommand) override;
 
     std::string viewerPath() const { return programFolder_ + "/marivox-help"; }
+    // The process id of the last viewer started, 0 before any.
+    qint64 lastViewer() const { return lastViewer_; }
 
   private:
     std::string programFolder_;
+    qint64 lastViewer_ = 0;
 };
 
 }  // namespace marivox::qt

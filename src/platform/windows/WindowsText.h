@@ -1,0 +1,15 @@
+#pragma once
+// Text conversions for the Windows components: the game's UTF-8 into the wide strings of
+// COM and the ANSI code page of the older APIs.
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+
+namespace marivox::windows {
+
+std::wstring wideText(std::string_view utf8);
+std::string ansiText(std::string_view utf8);
+
+}  // namespace marivox::windows
