@@ -9,7 +9,8 @@ def walk(node, depth, out, limit=4000):
     if node is None or len(out) > limit:
         return
     try:
-        out.append("%d|%s|%s" % (depth, node.getRoleName(), node.name))
+        name = node.name.replace("\n", "\\n")
+        out.append("%d|%s|%s" % (depth, node.getRoleName(), name))
         for index in range(node.childCount):
             walk(node.getChildAtIndex(index), depth + 1, out, limit)
     except Exception as error:  # an object that vanished while we looked

@@ -294,9 +294,11 @@ class Session:
                              capture_output=True, text=True, env=self._base_env(), timeout=60)
         return out.stdout.splitlines()
 
-    def screenshot(self, path):
+    def screenshot(self, path, window=None):
         dump = os.path.join(self.dir, "screen.xwd")
-        subprocess.run(["xwd", "-root", "-silent", "-out", dump], env=self._base_env(), check=True)
+        target = ["-id", window] if window else ["-root"]
+        subprocess.run(["xwd", *target, "-silent", "-out", dump], env=self._base_env(),
+                       check=True)
         subprocess.run(["convert", dump, path], check=True)
 
 

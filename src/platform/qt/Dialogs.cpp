@@ -34,6 +34,7 @@ class ReaderDialogQt::Form : public QDialog {
         label->setObjectName("lblReader");
         label->setGeometry(twipsRect(500, 0, 1000, 195));
         label->setBuddy(list);
+        fitTextToWidth(*label);
         auto* ok = new QPushButton("OK", this);
         ok->setObjectName("btnOK");
         ok->setGeometry(twipsRect(1000, 3000, 1000, 300));

@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFontMetrics>
 #include <QLabel>
 #include <QMenuBar>
 
@@ -108,13 +107,7 @@ void GameWindowQt::buildLabels() {
         auto* label = new QLabel(spec.text, centralWidget());
         label->setObjectName(spec.name);
         label->setGeometry(twipsRect(2500, spec.top, 5000, 255));
-        // The places are fixed; the font is ours, made small enough to show the whole text.
-        QFont font = label->font();
-        while (font.pointSizeF() > 6 &&
-               QFontMetrics(font).horizontalAdvance(label->text()) > label->width()) {
-            font.setPointSizeF(font.pointSizeF() - 0.5);
-        }
-        label->setFont(font);
+        fitTextToWidth(*label);
     }
 }
 

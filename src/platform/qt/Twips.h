@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QFontMetrics>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QRect>
 #include <QScreen>
 #include <cmath>
@@ -16,6 +18,16 @@ inline int twips(int value) {
 
 inline QRect twipsRect(int left, int top, int width, int height) {
     return {twips(left), twips(top), twips(width), twips(height)};
+}
+
+// The places are fixed; the font is ours, made small enough for the whole text to show.
+inline void fitTextToWidth(QLabel& label) {
+    QFont font = label.font();
+    while (font.pointSizeF() > 6 &&
+           QFontMetrics(font).horizontalAdvance(label.text()) > label.width()) {
+        font.setPointSizeF(font.pointSizeF() - 0.5);
+    }
+    label.setFont(font);
 }
 
 }  // namespace marivox::qt
