@@ -8,6 +8,7 @@ session ends, whether the test passed or not.
 
 import array
 import os
+import re
 import shutil
 import signal
 import subprocess
@@ -38,10 +39,11 @@ def wait_until(condition, timeout, interval=0.02):
 
 
 class Session:
-    def __init__(self, stored_reader="JFW", speech=True, audio=True, program=None):
+    def __init__(self, stored_reader="JFW", speech=True, audio=True, program=None, orca=False):
         self.stored_reader = stored_reader
         self.with_speech = speech
         self.with_audio = audio
+        self.with_orca = orca
         self.program = program or os.path.join(BUILD, "marivox")
         self.dir = tempfile.mkdtemp(prefix="marivox-e2e-")
         self.processes = []  # (name, Popen), stopped in reverse order
@@ -49,6 +51,7 @@ class Session:
         self.game = None
         self.recording = bytearray()
         self._recorder = None
+        self.started_at = time.time()  # until the game starts, the session's start
 
     # -- the session --------------------------------------------------------------------
 
@@ -61,6 +64,8 @@ class Session:
             if self.with_audio:
                 self._start_audio()
             self._write_settings()
+            if self.with_orca:
+                self._start_orca()
         except BaseException:
             self.close()
             raise
@@ -154,6 +159,14 @@ class Session:
         except (OSError, ValueError):
             return
 
+    def _start_orca(self):
+        """Debian's Orca with its default settings, speaking to the same speech service."""
+        log = open(os.path.join(self.dir, "orca.log"), "w")
+        self.orca = self._spawn("orca", ["orca", "--replace"], env=self._base_env(), stdout=log,
+                                stderr=subprocess.STDOUT)
+        log.close()
+        self.wait_for_text("Screen reader on.", timeout=30)
+
     def _write_settings(self):
         if self.stored_reader is None:
             return
@@ -232,17 +245,21 @@ class Session:
     # -- what the player hears ----------------------------------------------------------
 
     def spoken(self):
-        """Utterances so far, as (seconds since the game started, text)."""
-        result = []
+        """Utterances so far, as (seconds since the game started, text). A text may hold line
+        breaks (Orca reads boxes whole), so a record runs until the next time stamp."""
+        records = []
         try:
             with open(self.spoken_log, "rb") as log:
-                for raw in log.read().decode("utf-8", "replace").split("\n"):
-                    if "|" in raw and raw.endswith("|"):
-                        stamp, text = raw[:-1].split("|", 1)
-                        result.append((float(stamp) - self.started_at, text))
+                lines = log.read().decode("utf-8", "replace").split("\n")[:-1]
         except FileNotFoundError:
-            pass
-        return result
+            return records
+        for line in lines:
+            stamp, bar, rest = line.partition("|")
+            if bar and re.fullmatch(r"\d+\.\d+", stamp):
+                records.append([float(stamp) - self.started_at, rest])
+            elif records:
+                records[-1][1] += "\n" + line
+        return [(stamp, text[:-1]) for stamp, text in records if text.endswith("|")]
 
     def texts(self):
         return [text for _, text in self.spoken()]

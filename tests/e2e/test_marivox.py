@@ -241,5 +241,58 @@ class NoServices(GameTest):
         self.assertTrue(self.session.game_ended(15))
         self.assertEqual(self.session.game.returncode, 0)
 
+
+class WithOrca(GameTest):
+    """Orca runs beside the game, on the same speech service. The game speaks a cell, with
+    what is known of it, the moment the cursor lands there; Orca then reads the cell's
+    accessible name (the whole row when the row changes). Neither cuts the other off."""
+
+    def setUp(self):
+        self.session = harness.Session(stored_reader="JFW", orca=True).__enter__()
+        self.addCleanup(self.session.close)
+
+    def said_after(self, count):
+        return self.session.texts()[count:]
+
+    def test_orca_reads_the_grid_after_the_game_and_reads_boxes(self):
+        self.start()
+        self.session.keys("Right", window=self.window)  # focus is on the board now
+        self.session.wait_for_text("A  2")
+        time.sleep(1.5)
+        heard = len(self.session.texts())
+        self.session.keys("Right", window=self.window)
+        orca_cell = lambda said: [s for s in said if s.endswith("A 3.")]  # noqa: E731
+        harness.wait_until(lambda: orca_cell(self.said_after(heard)), 10)
+        said = self.said_after(heard)
+        # The game first; then Orca, with the cell's accessible name after its column header.
+        self.assertEqual(orca_cell(said), ["3 column header A 3."])
+        self.assertLess(said.index("A  3"), said.index("3 column header A 3."))
+
+        heard = len(self.session.texts())
+        self.session.keys("Return", window=self.window)
+        result = harness.wait_until(
+            lambda: [s for s in self.said_after(heard) if s.startswith("A  3 was ")], 10)
+        self.assertTrue(result)
+        mark = "miss" if "miss" in result[0] else "hit"
+        self.session.wait_for_text("It is your turn and you are located at A  3", after=heard)
+        self.session.keys("Left", window=self.window)
+        time.sleep(1)
+        heard = len(self.session.texts())
+        self.session.keys("Right", window=self.window)
+        harness.wait_until(lambda: any(("A 3, " + mark) in s for s in self.said_after(heard)),
+                           10)
+        self.assertTrue(any(("A 3, " + mark) in s for s in self.said_after(heard)),
+                        self.said_after(heard))
+
+        heard = len(self.session.texts())
+        self.session.keys("ctrl+n", window=self.window)
+        harness.wait_until(lambda: any("There is already a game in progress" in s
+                                       for s in self.said_after(heard)), 10)
+        self.session.keys("Escape")
+        self.session.wait_for_text("It is your turn and you are located at A  3", after=heard)
+        self.assertIsNone(self.session.orca.poll())  # Orca is still running
+        self.assertFalse(self.session.game_ended(0.1))
+
+
 if __name__ == "__main__":
     unittest.main()
