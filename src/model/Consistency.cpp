@@ -1,7 +1,7 @@
 #include "model/Consistency.h"
 
 #include <algorithm>
-#include <vector>
+#include <array>
 
 #include "model/GameState.h"
 
@@ -18,67 +18,82 @@ bool isFlag(std::int16_t value) {
     return value == kTrue || value == kFalse;
 }
 
-struct Cell {
-    int row;
-    int col;
+// What one pass over an ocean learns of each ship code: how many cells carry it, how many
+// of those are hit, and the rows and columns they span.
+struct ShipCells {
+    int count = 0;
+    int hits = 0;
+    int minRow = 99, maxRow = -1, minCol = 99, maxCol = -1;
 };
 
-std::string oceanProblem(const Ocean& ocean, const char* name) {
+struct OceanSurvey {
+    std::array<ShipCells, kShips.size()> ships{};
+    std::string problem;
+};
+
+// Which ship, if any, a code belongs to (intact or hit), by code.
+constexpr auto kShipOfCode = [] {
+    std::array<int, CellCode::LastHit + 1> ships{};
+    ships.fill(-1);
+    for (const ShipInfo& ship : kShips) {
+        ships[static_cast<std::size_t>(ship.intactCode)] = static_cast<int>(ship.type);
+        ships[static_cast<std::size_t>(ship.hitCode)] = static_cast<int>(ship.type);
+    }
+    return ships;
+}();
+
+OceanSurvey survey(const Ocean& ocean, const char* name) {
+    OceanSurvey result;
     for (int row = 0; row < Ocean::kExtent; ++row) {
         for (int col = 0; col < Ocean::kExtent; ++col) {
             const std::int16_t code = ocean(row, col);
             if (!isPlayingCell(row, col) && code != 0) {
-                return std::string(name) + " rim cell is not 0";
+                result.problem = std::string(name) + " rim cell is not 0";
+                return result;
             }
             if (!isLegalCode(code)) {
-                return std::string(name) + " holds an illegal code " + std::to_string(code);
+                result.problem =
+                    std::string(name) + " holds an illegal code " + std::to_string(code);
+                return result;
             }
+            const int ship = kShipOfCode[static_cast<std::size_t>(code)];
+            if (ship < 0) {
+                continue;
+            }
+            ShipCells& cells = result.ships[static_cast<std::size_t>(ship)];
+            ++cells.count;
+            cells.hits += code >= CellCode::FirstHit ? 1 : 0;
+            cells.minRow = std::min(cells.minRow, row);
+            cells.maxRow = std::max(cells.maxRow, row);
+            cells.minCol = std::min(cells.minCol, col);
+            cells.maxCol = std::max(cells.maxCol, col);
         }
     }
     for (const ShipInfo& ship : kShips) {
-        std::vector<Cell> cells;
-        for (int row = kFirstLine; row <= kLastLine; ++row) {
-            for (int col = kFirstLine; col <= kLastLine; ++col) {
-                const std::int16_t code = ocean(row, col);
-                if (code == ship.intactCode || code == ship.hitCode) {
-                    cells.push_back({row, col});
-                }
-            }
-        }
-        if (cells.empty()) {
+        const ShipCells& cells = result.ships[static_cast<std::size_t>(ship.type)];
+        if (cells.count == 0) {
             continue;  // not laid yet
         }
-        const auto size = static_cast<int>(cells.size());
-        const bool sameRow = std::all_of(cells.begin(), cells.end(),
-                                         [&](Cell c) { return c.row == cells.front().row; });
-        const bool sameCol = std::all_of(cells.begin(), cells.end(),
-                                         [&](Cell c) { return c.col == cells.front().col; });
-        const bool straight = (sameRow && cells.back().col - cells.front().col == size - 1) ||
-                              (sameCol && cells.back().row - cells.front().row == size - 1);
-        if (size != ship.length || !straight) {
-            return std::string(name) + " has a ship of code " + std::to_string(ship.intactCode) +
-                   " that is not one straight line of its length";
+        // Distinct cells in one line, spanning exactly the ship's length, are consecutive.
+        const bool straight =
+            (cells.minRow == cells.maxRow && cells.maxCol - cells.minCol == ship.length - 1) ||
+            (cells.minCol == cells.maxCol && cells.maxRow - cells.minRow == ship.length - 1);
+        if (cells.count != ship.length || !straight) {
+            result.problem = std::string(name) + " has a ship of code " +
+                             std::to_string(ship.intactCode) +
+                             " that is not one straight line of its length";
+            return result;
         }
     }
-    return {};
+    return result;
 }
 
-int hitCells(const Ocean& ocean, const ShipInfo& ship) {
-    int count = 0;
-    for (int row = kFirstLine; row <= kLastLine; ++row) {
-        for (int col = kFirstLine; col <= kLastLine; ++col) {
-            count += ocean(row, col) == ship.hitCode ? 1 : 0;
-        }
-    }
-    return count;
-}
-
-std::string talliesProblem(const Ocean& ocean, const PerShip<std::int16_t>& hits,
+std::string talliesProblem(const OceanSurvey& ocean, const PerShip<std::int16_t>& hits,
                            const PerShip<std::int16_t>& sunk, std::int16_t sunkCount,
                            const char* side) {
     int flagsSet = 0;
     for (const ShipInfo& ship : kShips) {
-        if (hits[ship.type] != hitCells(ocean, ship)) {
+        if (hits[ship.type] != ocean.ships[static_cast<std::size_t>(ship.type)].hits) {
             return std::string(side) + " hits on code " + std::to_string(ship.intactCode) +
                    " disagree with the ocean";
         }
@@ -116,8 +131,10 @@ std::string huntProblem(const GameState& s) {
     if (s.HalHitShip != ship.hitCode) {
         return "HalHitShip is not the hunted ship's hit code";
     }
-    if (s.HalHits[ship.type] < s.HalHitCount || s.HalHits[ship.type] >= ship.length) {
-        return "the hunted ship's hits do not match the hunt";
+    // The hit count itself may run ahead of the ship's hits: a new game keeps it, and a
+    // computer's turn still pending from the old game can start a hunt on the new board.
+    if (s.HalHits[ship.type] < 1 || s.HalHits[ship.type] >= ship.length) {
+        return "the hunted ship is not hit and afloat";
     }
     if (s.MyOcean(s.HalLastRow, s.HalLastCol) != ship.hitCode) {
         return "the hunt's last hit is not a hit on the hunted ship";
@@ -128,18 +145,18 @@ std::string huntProblem(const GameState& s) {
 }  // namespace
 
 std::string consistencyProblem(const GameState& state) {
-    for (const auto& problem :
-         {oceanProblem(state.HalOcean, "HalOcean"), oceanProblem(state.MyOcean, "MyOcean")}) {
-        if (!problem.empty()) {
-            return problem;
+    const OceanSurvey hal = survey(state.HalOcean, "HalOcean");
+    const OceanSurvey mine = survey(state.MyOcean, "MyOcean");
+    for (const std::string* problem : {&hal.problem, &mine.problem}) {
+        if (!problem->empty()) {
+            return *problem;
         }
     }
-    if (auto p = talliesProblem(state.HalOcean, state.MyHits, state.MySunk, state.MySunkCount,
-                                "the player's");
+    if (auto p = talliesProblem(hal, state.MyHits, state.MySunk, state.MySunkCount, "the player's");
         !p.empty()) {
         return p;
     }
-    if (auto p = talliesProblem(state.MyOcean, state.HalHits, state.HalSunk, state.HalSunkCount,
+    if (auto p = talliesProblem(mine, state.HalHits, state.HalSunk, state.HalSunkCount,
                                 "the computer's");
         !p.empty()) {
         return p;

@@ -32,6 +32,8 @@ int FakeMessageBoxes::show(std::string_view text, int style, std::string_view ti
     if (!answers_.empty()) {
         answer = answers_.front();
         answers_.pop_front();
+    } else if (answerer_) {
+        answer = answerer_(text, style);
     } else if ((style & 0xF) == MsgBoxStyle::YesNo) {
         answer = MsgBoxAnswer::No;
     }

@@ -23,6 +23,10 @@ class FakeMessageBoxes : public MessageBoxes {
     int show(std::string_view text, int style, std::string_view title) override;
 
     void answerNext(int answer) { answers_.push_back(answer); }
+    // Answers every box that has no scripted answer (random play answers them all).
+    void answerWith(std::function<int(std::string_view text, int style)> answerer) {
+        answerer_ = std::move(answerer);
+    }
     // Runs while the next box is open, as a modal box lets timers go on.
     void whileNextOpen(std::function<void()> action) { whileOpen_.push_back(std::move(action)); }
     int shown() const { return shown_; }
@@ -31,6 +35,7 @@ class FakeMessageBoxes : public MessageBoxes {
     Transcript& transcript_;
     std::deque<int> answers_;
     std::deque<std::function<void()>> whileOpen_;
+    std::function<int(std::string_view, int)> answerer_;
     int shown_ = 0;
 };
 
