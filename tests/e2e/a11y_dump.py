@@ -5,12 +5,29 @@ import sys
 import pyatspi
 
 
+def one_line(text):
+    return text.replace("\r", "\\r").replace("\n", "\\n")
+
+
+def text_of(node, limit=600):
+    """The start of what a screen reader would read inside a text object, if any."""
+    try:
+        text = node.queryText()
+    except NotImplementedError:
+        return ""
+    contents = text.getText(0, min(text.characterCount, limit))
+    return "" if contents == node.name else contents
+
+
 def walk(node, depth, out, limit=4000):
     if node is None or len(out) > limit:
         return
     try:
-        name = node.name.replace("\n", "\\n")
+        name = one_line(node.name)
         out.append("%d|%s|%s" % (depth, node.getRoleName(), name))
+        contents = text_of(node)
+        if contents:
+            out.append("%d|text contents|%s" % (depth + 1, one_line(contents)))
         for index in range(node.childCount):
             walk(node.getChildAtIndex(index), depth + 1, out, limit)
     except Exception as error:  # an object that vanished while we looked
@@ -24,7 +41,8 @@ def main():
         application = desktop.getChildAtIndex(index)
         if application is not None and application.name.lower().startswith("marivox"):
             walk(application, 0, lines)
-    print("\n".join(lines))
+    if lines:
+        print("\n".join(lines))
     return 0 if lines else 1
 
 

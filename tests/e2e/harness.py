@@ -117,11 +117,12 @@ class Session:
 
     def _start_speech(self):
         workdir = os.path.join(self.dir, "speechd")
-        os.makedirs(workdir)
+        os.makedirs(workdir, exist_ok=True)
         out = subprocess.run([os.path.join(HERE, "speechd", "start-private-speechd"), workdir],
                              capture_output=True, text=True, check=True, env=self._base_env())
         values = dict(line.split("=", 1) for line in out.stdout.split())
         pid = int(values["PID"])
+        self.speech_pid = pid
         self.processes.append(("speech-dispatcher", _Pid(pid)))
         self.env["SPEECHD_ADDRESS"] = values["SPEECHD_ADDRESS"]
         self.spoken_log = os.path.join(workdir, "spoken.log")
@@ -229,6 +230,38 @@ class Session:
                            check=False)
         subprocess.run(["xdotool", "key", "--delay", str(delay_ms), *names],
                        env=self._base_env(), check=True)
+
+    def kill_speech(self):
+        os.kill(self.speech_pid, signal.SIGKILL)
+        wait_until(lambda: _Pid(self.speech_pid).poll() is not None, 5)
+
+    def restart_speech(self):
+        """A new speech service on the same address; what it hears is logged afresh."""
+        self._start_speech()
+
+    def kill_audio(self):
+        for name, process in self.processes:
+            if name == "pulseaudio":
+                process.kill()
+                process.wait(5)
+
+    def settings_path(self):
+        return os.path.join(self.dir, "config", "Marivox", "Marivox.conf")
+
+    def program_copy(self, leave_out=(), damage=()):
+        """A copy of the program folder without some files, or with some cut short."""
+        source = os.path.dirname(self.program)
+        folder = os.path.join(self.dir, "program")
+        os.makedirs(folder)
+        names = ["marivox", "marivox-help", "marvox.hlp"] + [s + ".wav" for s in SOUNDS]
+        for name in names:
+            if name not in leave_out:
+                shutil.copy2(os.path.join(source, name), folder)
+        for name in damage:
+            with open(os.path.join(folder, name), "r+b") as cut:
+                cut.truncate(30)
+        self.program = os.path.join(folder, "marivox")
+        return folder
 
     def close_window(self, window):
         """The window's close button, as a window manager would press it."""

@@ -1,5 +1,6 @@
 #include "platform/qt/QtSettingsStore.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
@@ -48,14 +49,38 @@ std::string QtSettingsStore::GetSetting(std::string_view application, std::strin
 
 void QtSettingsStore::SaveSetting(std::string_view application, std::string_view section,
                                   std::string_view key, std::string_view value) {
-    QSettings settings(settingsFile(application), QSettings::IniFormat);
-    if (settings.status() != QSettings::NoError) {
-        fail(settings, "read");
+    const QString path = settingsFile(application);
+    QByteArray before;
+    if (QFile old(path); old.open(QIODevice::ReadOnly)) {
+        before = old.readAll();
     }
-    settings.setValue(settingName(section, key), q(value));
-    settings.sync();
-    if (settings.status() != QSettings::NoError) {
-        fail(settings, "written");
+    {
+        QSettings settings(path, QSettings::IniFormat);
+        if (settings.status() != QSettings::NoError) {
+            fail(settings, "read");
+        }
+        settings.setValue(settingName(section, key), q(value));
+        settings.sync();
+        if (settings.status() == QSettings::NoError) {
+            return;
+        }
+        if (settings.status() != QSettings::FormatError) {
+            fail(settings, "written");
+        }
+    }
+    // Qt finds a damaged file only as it writes. Nothing in it can be read back, but it is
+    // the player's: it is kept aside whole and a fresh file takes its place.
+    QFile aside(path + ".damaged");
+    if (!aside.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
+        aside.write(before) != before.size() || !aside.flush()) {
+        fail(QSettings(path, QSettings::IniFormat), "written");
+    }
+    QFile::remove(path);
+    QSettings fresh(path, QSettings::IniFormat);
+    fresh.setValue(settingName(section, key), q(value));
+    fresh.sync();
+    if (fresh.status() != QSettings::NoError) {
+        fail(fresh, "written");
     }
 }
 

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <cstdlib>
 #include <fstream>
+#include <iterator>
 
 #include "platform/qt/QtSettingsStore.h"
 #include "support/Failure.h"
@@ -42,6 +44,23 @@ TEST_F(SettingsTest, UnwritableStoreIsAFailureNotASilentLoss) {
         EXPECT_EQ(failure.number(), static_cast<int>(FailureNumber::SettingsStore));
         EXPECT_NE(failure.description().find("Marivox.conf"), std::string::npos);
     }
+}
+
+TEST_F(SettingsTest, DamagedFileReadsAsNoChoiceAndIsSetAsideWholeOnSaving) {
+    std::string garbage;
+    for (int i = 0; i < 4096; ++i) {
+        garbage += static_cast<char>(i % 256);
+    }
+    QDir().mkpath(home.path() + "/Marivox");
+    std::ofstream(file(), std::ios::binary) << garbage;
+
+    EXPECT_EQ(store.GetSetting("Marivox", "StartUp", "Reader", "none"), "none");
+
+    store.SaveSetting("Marivox", "StartUp", "Reader", "WE");
+    EXPECT_EQ(store.GetSetting("Marivox", "StartUp", "Reader", ""), "WE");
+    std::ifstream aside(file() + ".damaged", std::ios::binary);
+    const std::string kept((std::istreambuf_iterator<char>(aside)), {});
+    EXPECT_EQ(kept, garbage);
 }
 
 }  // namespace
