@@ -1,0 +1,46 @@
+// Any bytes as a sound file: parsed, and what parses converted for the output stream.
+// Whatever parses must describe itself truthfully; everything else is a Failure, never a
+// crash or a huge allocation.
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <span>
+
+#include "platform/qt/audio/WavFile.h"
+#include "support/Failure.h"
+
+namespace {
+
+void require(bool condition, const char* what) {
+    if (!condition) {
+        std::fprintf(stderr, "broken promise: %s\n", what);
+        std::abort();
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace marivox::audio;
+    WavData wav;
+    try {
+        wav = parseWav(std::as_bytes(std::span(data, size)), "fuzz.wav");
+    } catch (const marivox::Failure& failure) {
+        require(failure.number() == static_cast<int>(marivox::FailureNumber::SoundFile),
+                "a damaged sound fails as a sound file");
+        return 0;
+    }
+    require(wav.channels == 1 || wav.channels == 2, "mono or stereo");
+    require(wav.bitsPerSample == 8 || wav.bitsPerSample == 16, "8 or 16 bits");
+    require(wav.sampleRate > 0, "a sample rate");
+    require(wav.samples.size() % wav.channels == 0, "whole frames");
+    require(wav.samples.size() * wav.bitsPerSample / 8 <= size, "no more samples than bytes");
+
+    const auto mono = toMono(wav);
+    const double expected = static_cast<double>(wav.frames()) * kOutputRate / wav.sampleRate;
+    require(static_cast<double>(mono.size()) <= expected + 2 &&
+                static_cast<double>(mono.size()) + 2 >= expected,
+            "the converted sound lasts as long as the file's");
+    return 0;
+}
