@@ -43,19 +43,21 @@ BoardGrid::BoardGrid(QWidget* parent) : QTableWidget(parent) {
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setHighlightSections(false);
 
-    connect(this, &QTableWidget::currentCellChanged, this,
-            [this](int row, int col, int previousRow, int previousCol) {
-                if (!quiet_ && events_ != nullptr && row >= 0 &&
-                    (row != previousRow || col != previousCol)) {
-                    events_->onRowColChange();
-                }
-            });
     connect(this, &QTableWidget::cellClicked, this, [this](int, int) {
         if (events_ != nullptr) {
             events_->onClick();
         }
     });
     reshape();
+}
+
+void BoardGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    // The game speaks the cell before the view repaints and tells the accessibility bus,
+    // so the player hears it that much sooner.
+    if (!quiet_ && events_ != nullptr && current.isValid() && current != previous) {
+        events_->onRowColChange();
+    }
+    QTableWidget::currentChanged(current, previous);
 }
 
 QString BoardGrid::accessibleCellText(int row, int col, const QString& mark) {

@@ -50,6 +50,7 @@ class BoardGrid : public QTableWidget, public GridControl {
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
   private:
     void reshape();

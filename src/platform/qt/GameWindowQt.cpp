@@ -7,6 +7,7 @@
 #include <QMenuBar>
 
 #include "platform/KeyCodes.h"
+#include "platform/LatencyProbe.h"
 #include "platform/qt/KeyMapping.h"
 #include "platform/qt/ProgramIcon.h"
 #include "platform/qt/QtApplication.h"
@@ -135,6 +136,7 @@ bool GameWindowQt::eventFilter(QObject* watched, QEvent* event) {
     if (watched != (firstReceiver != nullptr ? firstReceiver : this)) {
         return false;  // the same press travelling up to a parent
     }
+    probe::keyArrived();
     const auto& key = static_cast<const QKeyEvent&>(*event);
     const std::int16_t code = gameKeyCode(key);
     events_->Form_KeyDown(code, gameShiftState(key.modifiers()));

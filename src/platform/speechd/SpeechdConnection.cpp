@@ -8,6 +8,8 @@
 #include <cstdlib>
 #include <mutex>
 
+#include "platform/LatencyProbe.h"
+
 #include "support/Failure.h"
 
 namespace marivox::speechd {
@@ -90,16 +92,26 @@ void SpeechdConnection::connect() {
 void SpeechdConnection::say(std::string_view text) {
     connect();
     const std::string terminated(text);
-    if (spd_say(client_->connection, SPD_MESSAGE, terminated.c_str()) < 0) {
+    probe::speechHandedOver();
+    const int result = spd_say(client_->connection, SPD_MESSAGE, terminated.c_str());
+    probe::speechDone();
+    if (result < 0) {
         fail("did not take the text; the connection was lost");
     }
+    saidSinceCancel_ = true;
 }
 
 void SpeechdConnection::cancel() {
+    // A key often stops speech twice before speaking; with nothing of ours said since the
+    // last stop there is nothing to cut off, and the round trip would delay the answer.
+    if (isConnected() && !saidSinceCancel_) {
+        return;
+    }
     connect();
     if (spd_cancel(client_->connection) < 0) {
         fail("did not stop speaking; the connection was lost");
     }
+    saidSinceCancel_ = false;
 }
 
 }  // namespace marivox::speechd

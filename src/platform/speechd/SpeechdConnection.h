@@ -30,6 +30,7 @@ class SpeechdConnection {
     struct Client;  // libspeechd's connection, kept out of this header
     std::string clientName_;
     std::unique_ptr<Client> client_;
+    bool saidSinceCancel_ = true;  // until a stop, assume something may still be speaking
 };
 
 // Where the game looks for the speech service, as a player would read it.
