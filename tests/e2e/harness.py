@@ -213,15 +213,26 @@ class Session:
         return self.game
 
     def window_id(self, name="Marivox", timeout=10):
+        """The newest visible window so named; a box is taken only when no main window is.
+
+        Message boxes bear the game's title too, and one just answered may still be mapped
+        for a moment after it has left the accessible tree.
+        """
         def find():
             out = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^%s$" % name],
                                  capture_output=True, text=True, env=self._base_env())
             ids = out.stdout.split()
-            return ids[-1] if ids else None
+            main = [window for window in ids if not self._is_transient(window)]
+            return (main or ids or [None])[-1]
         window = wait_until(find, timeout, 0.05)
         if window is None:
             raise SessionError("no window named %r appeared" % name)
         return window
+
+    def _is_transient(self, window):
+        out = subprocess.run(["xprop", "-id", window, "WM_TRANSIENT_FOR"],
+                             capture_output=True, text=True, env=self._base_env())
+        return "window id #" in out.stdout
 
     def keys(self, *names, window=None, delay_ms=40):
         """Presses keys as a player does, into the window that has the focus."""
@@ -337,6 +348,34 @@ class Session:
                 found.append((at // 2 - middle, name))
                 start = at + len(probe)
         return [name for _, name in sorted(found)]
+
+    def alerts(self):
+        """The texts of the message boxes now open."""
+        texts, alert_depth = [], None
+        for line in self.accessible_tree():
+            if line.count("|") < 2:
+                continue
+            depth, role, name = line.split("|", 2)
+            if alert_depth is not None and int(depth) <= alert_depth:
+                alert_depth = None
+            if role == "alert":
+                alert_depth = int(depth)
+            elif alert_depth is not None and role == "label" and name:
+                texts.append(name)
+        return texts
+
+    def answer_alerts(self, limit=20):
+        """Presses Enter on each box in turn; their texts."""
+        answered = []
+        for _ in range(limit):
+            shown = self.alerts()
+            if not shown:
+                break
+            answered += shown
+            self.keys("Return")
+            # The next look must not see the box just answered, or a Return would fire.
+            wait_until(lambda: self.alerts() != shown, 5)
+        return answered
 
     def accessible_tree(self):
         """The game's accessible objects as (depth, role, name) lines."""

@@ -21,32 +21,6 @@ class Hostile(unittest.TestCase):
         self.session = harness.Session(stored_reader=self.stored_reader).__enter__()
         self.addCleanup(self.session.close)
 
-    def alerts(self):
-        texts, alert_depth = [], None
-        for line in self.session.accessible_tree():
-            if line.count("|") < 2:
-                continue
-            depth, role, name = line.split("|", 2)
-            if alert_depth is not None and int(depth) <= alert_depth:
-                alert_depth = None
-            if role == "alert":
-                alert_depth = int(depth)
-            elif alert_depth is not None and role == "label" and name:
-                texts.append(name)
-        return texts
-
-    def answer_alerts(self, limit=20):
-        answered = []
-        for _ in range(limit):
-            shown = self.alerts()
-            if not shown:
-                break
-            answered += shown
-            self.session.keys("Return")
-            # The next look must not see the box just answered, or a Return would fire.
-            harness.wait_until(lambda: self.alerts() != shown, 5)
-        return answered
-
     def fresh_session(self):
         """A new session in place of the current one, for one more case of a test."""
         self.session.close()
@@ -65,16 +39,18 @@ class Hostile(unittest.TestCase):
         with open(self.session.settings_path(), "rb") as conf:
             return conf.read()
 
+    def exit_question_shown(self):
+        return any("exit the program" in text for text in self.session.alerts())
+
     def exit_game(self, window):
         self.session.close_window(window)
-        if not harness.wait_until(lambda: any("exit the program" in t for t in self.alerts()),
-                                  10):
+        if not harness.wait_until(self.exit_question_shown, 10):
             self.fail("no exit question after closing the window; heard: %r"
                       % self.session.texts())
         self.session.keys("Return")
         if not self.session.game_ended(15):
             self.fail("the game did not end; boxes open: %r, heard: %r"
-                      % (self.alerts(), self.session.texts()))
+                      % (self.session.alerts(), self.session.texts()))
         self.assertEqual(self.session.game.returncode, 0)
 
 
@@ -91,7 +67,7 @@ class Settings(Hostile):
                 session.launch()
                 window = session.window_id()
                 time.sleep(2)
-                self.assertEqual(self.alerts(), [])
+                self.assertEqual(self.session.alerts(), [])
                 self.assertEqual(session.texts()[:3] == PROMPT, speaks, session.texts())
                 self.exit_game(window)
                 self.assertEqual(self.settings_bytes(), before)
@@ -102,7 +78,7 @@ class Settings(Hostile):
         self.session.launch()
         window = self.session.window_id(timeout=20)
         time.sleep(2)
-        self.assertEqual((self.alerts(), self.session.texts()), ([], []))
+        self.assertEqual((self.session.alerts(), self.session.texts()), ([], []))
         self.exit_game(window)
         self.assertEqual(self.settings_bytes(), content)
 
@@ -112,7 +88,7 @@ class Settings(Hostile):
         self.session.launch()
         self.session.keys("Return", window=self.session.window_id("Screen Reader"))
         self.session.wait_for_text(PROMPT[-1])
-        self.assertEqual(self.alerts(), [])
+        self.assertEqual(self.session.alerts(), [])
         self.exit_game(self.session.window_id())
         self.assertEqual(self.settings_bytes(), b"[StartUp]\nReader=JFW\n")
         with open(self.session.settings_path() + ".damaged", "rb") as aside:
@@ -123,8 +99,8 @@ class Settings(Hostile):
         # As root nothing is unreadable by its permissions; a folder in the file's place is.
         os.makedirs(session.settings_path())
         session.launch()
-        self.assertTrue(harness.wait_until(self.alerts, 10))
-        reports = self.answer_alerts()
+        self.assertTrue(harness.wait_until(self.session.alerts, 10))
+        reports = self.session.answer_alerts()
         window = session.window_id()
         self.assertTrue(any(r.endswith("; GetScreenReader()") and "Marivox.conf" in r
                             for r in reports), reports)
@@ -138,8 +114,8 @@ class Settings(Hostile):
         session.launch()
         dialog = session.window_id("Screen Reader")
         session.keys("Return", window=dialog)
-        self.assertTrue(harness.wait_until(self.alerts, 10))
-        reports = self.answer_alerts()
+        self.assertTrue(harness.wait_until(self.session.alerts, 10))
+        reports = self.session.answer_alerts()
         self.assertTrue(any(r.endswith("; SaveScreenReader()") for r in reports), reports)
         # The choice made still speaks for this run.
         session.wait_for_text(PROMPT[-1])
@@ -150,8 +126,8 @@ class Files(Hostile):
     def test_a_missing_or_damaged_sound_is_reported_and_the_game_goes_on(self):
         self.session.program_copy(leave_out=("begin.wav",), damage=("sonar.wav",))
         self.session.launch()
-        self.assertTrue(harness.wait_until(self.alerts, 10))
-        reports = self.answer_alerts()
+        self.assertTrue(harness.wait_until(self.session.alerts, 10))
+        reports = self.session.answer_alerts()
         window = self.session.window_id()  # the boxes bear the game's title too
         self.assertEqual(len(reports), 2, reports)
         self.assertTrue(reports[0].startswith("Error: 3002 ") and "begin.wav" in reports[0]
@@ -179,13 +155,13 @@ class Services(Hostile):
         self.session.wait_for_text(PROMPT[-1])
         self.session.kill_speech()
         self.session.keys("F2", window=window)
-        self.assertTrue(harness.wait_until(self.alerts, 10))
-        reports = self.answer_alerts()
+        self.assertTrue(harness.wait_until(self.session.alerts, 10))
+        reports = self.session.answer_alerts()
         self.assertTrue(reports and all("speech service" in r for r in reports), reports)
         self.session.restart_speech()
         self.session.keys("F2", window=window)
         self.session.wait_for_text(" You have sank  0 of my ships.  ")
-        self.assertEqual(self.alerts(), [])
+        self.assertEqual(self.session.alerts(), [])
         self.exit_game(window)
 
     def test_sound_server_dying_mid_sound_leaves_the_game_playing(self):
@@ -197,7 +173,7 @@ class Services(Hostile):
         harness.wait_until(lambda: any(t.startswith("A  1 was") or t.startswith(" You sank")
                                        for t in self.session.texts()), 10)
         self.session.wait_for_text("It is your turn and you are located at A  1", timeout=15)
-        self.assertEqual(self.alerts(), [])
+        self.assertEqual(self.session.alerts(), [])
         self.exit_game(window)
 
 

@@ -214,48 +214,24 @@ class NoServices(GameTest):
         self.session.__enter__()
         self.addCleanup(self.session.close)
 
-    def alerts(self):
-        """The texts of the message boxes now open."""
-        texts, alert_depth = [], None
-        for line in self.session.accessible_tree():
-            depth, role, name = line.split("|", 2)
-            if alert_depth is not None and int(depth) <= alert_depth:
-                alert_depth = None
-            if role == "alert":
-                alert_depth = int(depth)
-            elif alert_depth is not None and role == "label" and name:
-                texts.append(name)
-        return texts
-
-    def answer_alerts(self, limit=20):
-        answered = []
-        for _ in range(limit):
-            shown = self.alerts()
-            if not shown:
-                break
-            answered += shown
-            self.session.keys("Return")
-            time.sleep(0.3)
-        return answered
-
     def test_starts_reports_the_speech_failure_plays_and_exits(self):
         self.session.launch()
         window = self.session.window_id()
-        self.assertTrue(harness.wait_until(self.alerts, 15))
+        self.assertTrue(harness.wait_until(self.session.alerts, 15))
         # The opening prompt: speech stopped once, three lines spoken, each failure told once.
-        reports = self.answer_alerts()
+        reports = self.session.answer_alerts()
         self.assertEqual([line.rsplit(";", 1)[-1] for line in reports],
                          [" StopSpeech()", " Speak()", " Speak()", " Speak()"])
         self.assertIn("speech service", reports[0])
         # A cursor move: the key handler, the move and the cell's speech each stop speech
         # first, then the cell is spoken; each failure is told once.
         self.session.keys("Down", window=window)
-        self.assertEqual([line.rsplit(";", 1)[-1] for line in self.answer_alerts()],
+        self.assertEqual([line.rsplit(";", 1)[-1] for line in self.session.answer_alerts()],
                          [" StopSpeech()", " StopSpeech()", " StopSpeech()", " Speak()"])
         self.assertFalse(self.session.game_ended(0.5))
         self.session.close_window(window)
         self.assertTrue(harness.wait_until(
-            lambda: any("exit the program" in line for line in self.alerts()), 10))
+            lambda: any("exit the program" in line for line in self.session.alerts()), 10))
         self.session.keys("Return")
         self.assertTrue(self.session.game_ended(15))
         self.assertEqual(self.session.game.returncode, 0)
