@@ -11,21 +11,15 @@ import unittest
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import harness  # noqa: E402
+import test_marivox  # noqa: E402
 from test_marivox import PROMPT  # noqa: E402
 
 
-class Hostile(unittest.TestCase):
-    stored_reader = "JFW"
-
-    def setUp(self):
-        self.session = harness.Session(stored_reader=self.stored_reader).__enter__()
-        self.addCleanup(self.session.close)
-
+class Hostile(test_marivox.GameTest):
     def fresh_session(self):
         """A new session in place of the current one, for one more case of a test."""
         self.session.close()
-        self.session = harness.Session(stored_reader=self.stored_reader).__enter__()
-        self.addCleanup(self.session.close)
+        self.session = self.new_session()
         return self.session
 
     def write_settings(self, content):

@@ -27,10 +27,16 @@ COMPUTER_RESULT = re.compile(r"^%s was (a miss|a hit on your %s)  $|^ I sank you
 
 class GameTest(unittest.TestCase):
     stored_reader = "JFW"
+    session_options = {}
 
     def setUp(self):
-        self.session = harness.Session(stored_reader=self.stored_reader).__enter__()
-        self.addCleanup(self.session.close)
+        self.session = self.new_session()
+
+    def new_session(self):
+        session = harness.Session(stored_reader=self.stored_reader,
+                                  **self.session_options).__enter__()
+        self.addCleanup(session.close)
+        return session
 
     def start(self):
         self.session.launch()
@@ -38,8 +44,7 @@ class GameTest(unittest.TestCase):
         self.session.wait_for_text(PROMPT[-1])
 
     def settings_text(self):
-        path = os.path.join(self.session.dir, "config", "Marivox", "Marivox.conf")
-        with open(path) as conf:
+        with open(self.session.settings_path()) as conf:
             return conf.read()
 
 
@@ -242,9 +247,7 @@ class WithOrca(GameTest):
     what is known of it, the moment the cursor lands there; Orca then reads the cell's
     accessible name (the whole row when the row changes). Neither cuts the other off."""
 
-    def setUp(self):
-        self.session = harness.Session(stored_reader="JFW", orca=True).__enter__()
-        self.addCleanup(self.session.close)
+    session_options = {"orca": True}
 
     def said_after(self, count):
         return self.session.texts()[count:]

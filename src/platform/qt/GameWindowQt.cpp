@@ -47,7 +47,7 @@ const std::vector<Menu>& menuTree() {
     return tree;
 }
 
-struct LabelSpec {
+struct LegendLabel {
     const char* name;
     const char* text;
     int top;
@@ -99,15 +99,15 @@ void GameWindowQt::buildMenus() {
 }
 
 void GameWindowQt::buildLabels() {
-    const LabelSpec labels[] = {
+    const LegendLabel labels[] = {
         {"lblLabel0", "Click on a cell to shoot!", 3000},
         {"lblLabel1", "A = Aircraft Carrier   B = Battleship   C = Cruiser", 3500},
         {"lblLabel2", "D = Destroyer   M = Miss   P = Patrol Boat   S = Submarine", 3900},
     };
-    for (const LabelSpec& spec : labels) {
-        auto* label = new QLabel(spec.text, centralWidget());
-        label->setObjectName(spec.name);
-        label->setGeometry(twipsRect(2500, spec.top, 5000, 255));
+    for (const LegendLabel& wanted : labels) {
+        auto* label = new QLabel(wanted.text, centralWidget());
+        label->setObjectName(wanted.name);
+        label->setGeometry(twipsRect(2500, wanted.top, 5000, 255));
         fitTextToWidth(*label);
     }
 }
