@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Installing Marivox the way a Debian game is installed, and its .deb (cpack -G DEB).
 #
 #   <prefix>/lib/marivox/        the program folder: the game, its help viewer, sounds, help
@@ -42,14 +44,30 @@ foreach(size 16 24 32 48 64 128 256)
         DESTINATION share/icons/hicolor/${size}x${size}/apps)
 endforeach()
 
+# What Debian asks of every package's documentation folder: the licence, machine-readable,
+# and a changelog compressed without a time stamp so that builds are reproducible.
+# The manual page is compressed the same way, as Debian's policy asks.
+set(changelog_gz ${CMAKE_BINARY_DIR}/changelog.gz)
+set(manual_gz ${CMAKE_BINARY_DIR}/marivox.6.gz)
+add_custom_command(OUTPUT ${changelog_gz} ${manual_gz}
+    COMMAND gzip -9nc ${PROJECT_SOURCE_DIR}/assets/debian/changelog > ${changelog_gz}
+    COMMAND gzip -9nc ${PROJECT_SOURCE_DIR}/assets/man/marivox.6 > ${manual_gz}
+    DEPENDS ${PROJECT_SOURCE_DIR}/assets/debian/changelog ${PROJECT_SOURCE_DIR}/assets/man/marivox.6
+    VERBATIM)
+add_custom_target(marivox_documents ALL DEPENDS ${changelog_gz} ${manual_gz})
+install(FILES ${PROJECT_SOURCE_DIR}/assets/debian/copyright ${changelog_gz}
+    DESTINATION share/doc/marivox)
+install(FILES ${manual_gz} DESTINATION share/man/man6)
+
 set(CPACK_PACKAGE_NAME marivox)
 set(CPACK_PACKAGE_VENDOR "Marivox Developers")
 set(CPACK_PACKAGE_CONTACT "Marivox Developers <dev@marivox.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "spoken naval guessing game for blind players")
 set(CPACK_PACKAGE_DESCRIPTION
-    "You and the computer each hide six ships on a nine by nine ocean and fire in turns.
-Every event is spoken through speech-dispatcher, as Orca speaks, and most play a short
-sound; the board is a keyboard grid. Nothing in the game needs the screen.")
+    "You and the computer each hide six ships on a nine by nine ocean and fire
+in turns. Every event is spoken through speech-dispatcher, as Orca speaks,
+and most play a short sound; the board is a keyboard grid. Nothing in the
+game needs the screen.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

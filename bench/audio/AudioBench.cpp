@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // How quickly a sound is heard and how tightly sounds follow each other, measured against a
 // private PulseAudio whose sink is recorded. Figures only.
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // The floor our toolkit allows: a bare Qt 6 window with a menu bar and a 10 by 10 table,
 // started like the game, for the start-up and memory figures to be compared with.
 #include <QApplication>

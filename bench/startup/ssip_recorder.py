@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A stand-in speech service for the benchmarks: it speaks enough of SSIP, the protocol of
 speech-dispatcher, for libspeechd clients, and notes the monotonic time at which each text
 arrives whole, with no synthesis after it to wait for.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Marivox: builds the desktop, the speech service and the sound device, and starts the game.
 #include <QApplication>
 #include <chrono>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
 // Time stamps for the benchmarks of how quickly a key is heard. Off unless the environment

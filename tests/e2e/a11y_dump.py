@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Prints the accessible tree of the running Marivox, one object a line: depth, role, name."""
 
 import sys

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Asks a window to close as a window manager's close button does (WM_DELETE_WINDOW)."""
 
 import sys

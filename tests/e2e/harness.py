@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 """A private desktop session in which the real Marivox runs as a blind player meets it.
 
 Each Session starts its own X server (Xvfb), D-Bus session with the accessibility bus,

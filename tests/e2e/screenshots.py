@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Takes the pictures in docs/: the game screen in the middle of a game, the screen-reader
 dialog and the About box, each from the real program in a private session.
     /usr/bin/python3 tests/e2e/screenshots.py [output folder]

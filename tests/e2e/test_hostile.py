@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Marivox in a hostile environment: damaged or odd settings, a settings folder it cannot
 write, missing or damaged files, a speech service or sound server that is missing or dies
 in the middle. Each time: no crash, no hang, the behaviour the game promises (or a clear

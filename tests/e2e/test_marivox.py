@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Marivox played as a blind player meets it: the real program in a private desktop session,
 heard through a recording speech service and a recording sound server, read through the
 accessibility bus. Nothing here knows where the ships are: outcomes are read from what the

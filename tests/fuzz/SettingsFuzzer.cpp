@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as the settings file, and any text as the choice saved over it: reading never
 // crashes, a saved choice reads back exactly, and a file the store replaces is kept whole.
 #include <QByteArray>

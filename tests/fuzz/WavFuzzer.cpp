@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as a sound file: parsed, and what parses converted for the output stream.
 // Whatever parses must describe itself truthfully; everything else is a Failure, never a
 // crash or a huge allocation.

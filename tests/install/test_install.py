@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Marivox installed as a player installs it: a tree under a scratch prefix that the
 desktop's tools accept and from which the game starts and speaks, and a .deb that carries
 it with dependencies worked out from the binary."""
@@ -88,8 +90,13 @@ class DebianPackage(unittest.TestCase):
             # Worked out from the binary, not written by hand.
             for library in ("libqt6widgets6", "libspeechd2", "libpulse0", "libc6"):
                 self.assertIn(library, fields["Depends"])
+            self.assertNotIn("multimedia", fields["Depends"])
             self.assertIn("speech-dispatcher", fields["Recommends"])
             self.assertIn("pulseaudio | pipewire-pulse", fields["Recommends"])
+            # Debian's own checker: no error and no warning.
+            checked = run("lintian", "--tag-display-limit", "0", deb)
+            complaints = [line for line in checked.stdout.splitlines() if line[:2] in ("E:", "W:")]
+            self.assertEqual(complaints, [], checked.stdout + checked.stderr)
 
             listing = run("dpkg-deb", "--contents", deb).stdout
             self.assertIn("./usr/games/marivox -> ../lib/marivox/marivox", listing)
@@ -97,6 +104,7 @@ class DebianPackage(unittest.TestCase):
                 self.assertIn("./usr/lib/marivox/" + name + "\n", listing)
             self.assertIn("./usr/share/applications/%s.desktop" % APP_ID, listing)
             self.assertIn("./usr/share/metainfo/%s.metainfo.xml" % APP_ID, listing)
+            self.assertIn("./usr/share/doc/marivox/copyright\n", listing)
 
 
 if __name__ == "__main__":

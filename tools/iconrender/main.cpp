@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Renders the program's icon as PNG files for the desktop's icon theme:
 //   marivox_iconrender <folder>  writes <folder>/<N>x<N>/org.marivox.Marivox.png
 #include <QDir>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Writes the game's sound effects into the folder named on the command line.
 #include <filesystem>
 #include <fstream>

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // The "JFW" choice on Windows: JAWS For Windows's API library, loaded by name at the first
 // call and called through the two functions it exports.

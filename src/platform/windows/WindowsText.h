@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Text conversions for the Windows components: the game's UTF-8 into the wide strings of
 // COM and the ANSI code page of the older APIs.

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // Uses every Windows component the way the game does, so that linking proves each import
 // resolves. It is built, never run here.
 #include "platform/windows/WindowsAutomation.h"

@@ -1,3 +1,5 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
 // marivox-help <document>: shows the game's help beside it, as a program of its own so that
 // it stays open after the game if the player wishes.
 #include <QApplication>
