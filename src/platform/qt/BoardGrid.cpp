@@ -242,7 +242,7 @@ void BoardGrid::setTextMatrix(int row, int col, std::string_view text) {
     }
 }
 
-void BoardGrid::moveCursor(int row, int col) {
+void BoardGrid::placeCursor(int row, int col) {
     if (row < fixedRows_ || col < fixedCols_) {
         outOfRange("cursor");
     }
@@ -251,11 +251,11 @@ void BoardGrid::moveCursor(int row, int col) {
 }
 
 void BoardGrid::setRow(int row) {
-    moveCursor(row, col());
+    placeCursor(row, col());
 }
 
 void BoardGrid::setCol(int col) {
-    moveCursor(row(), col);
+    placeCursor(row(), col);
 }
 
 void BoardGrid::setBackColor(Rgb colour) {

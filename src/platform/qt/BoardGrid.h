@@ -59,7 +59,7 @@ class BoardGrid : public QTableWidget, public GridControl {
     void fitLines();
     void checkCell(int row, int col) const;
     QTableWidgetItem* itemAt(int row, int col) const;
-    void moveCursor(int row, int col);
+    void placeCursor(int row, int col);
 
     GridEvents* events_ = nullptr;
     int rows_ = 2;
