@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Marivox: builds the desktop, the speech service and the sound device, and starts the game.
-#include <QApplication>
 #include <chrono>
 
 #include "app/RealClock.h"
+#include "platform/qt/Desktop.h"
 #include "platform/qt/Dialogs.h"
 #include "platform/qt/GameWindowQt.h"
 #include "platform/qt/QtApplication.h"
@@ -18,21 +18,17 @@
 
 int main(int argc, char** argv) {
     using namespace marivox;
-    QApplication desktop(argc, argv);
+    qt::Desktop desktop(argc, argv);
     QApplication::setApplicationName("Marivox");
 
     qt::QtApplication application;
     qt::QtShell shell(application.programFolder());
-    qt::GameWindowQt window(application, [&] {
-        // The platform's help key opens the application's help file, as the menu does.
-        if (!application.helpFile().empty()) {
-            shell.ShellExecute(0, nullptr, application.helpFile(), nullptr, "", 1);
-        }
-    });
+    qt::GameWindowQt window(application);
     qt::QtTimerFactory timers;
     qt::QtMessageBoxes boxes;
     qt::QtSettingsStore settings;
-    const auto player = audio::makePulseWavPlayer();
+    const auto player = audio::makePulseWavPlayer(
+        [](const std::exception& failure) { qt::Desktop::escapedOnAnyThread("PlaySound", failure); });
     speechd::SpeechdJawsApi jaws;
     speechd::SpeechdAutomationObjects automation;
     qt::ReaderDialogQt readerDialog;
@@ -43,6 +39,9 @@ int main(int argc, char** argv) {
     System system({window, timers, boxes, application, settings, shell, *player, jaws, automation,
                    readerDialog, aboutBox, clock, sleeper},
                   clock.ticks());
+    desktop.setEscapedFailureHandler([&system](std::string_view where, const std::exception& failure) {
+        system.guard.reportEscaped(where, failure);
+    });
     system.Main();
     const int result = application.isEnding() ? 0 : QApplication::exec();
     // The closing sound is heard whole before the program goes, even behind a full queue.

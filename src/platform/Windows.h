@@ -27,6 +27,8 @@ class GameScreenEvents {
     virtual void mnuOptionsShoot_Click() = 0;
     virtual void mnuHelpContents_Click() = 0;
     virtual void mnuHelpAbout_Click() = 0;
+    // The platform's help key (F1), which opens the application's help file.
+    virtual void helpKey() = 0;
 };
 
 // The game screen window: caption "Marivox", the board grid, the menu bar and the labels.

@@ -140,6 +140,15 @@ void GameScreen::mnuHelpContents_Click() {
     guard_.run(Procedure::mnuHelpContents_Click, [&] { services_.help.showHelpContents(); });
 }
 
+// The help file is the application's, so the platform's help key opens it; no procedure of
+// the game screen handles F1, and a failure is reported as the help routine reports it.
+void GameScreen::helpKey() {
+    const std::string helpFile = services_.application.helpFile();
+    if (!helpFile.empty()) {
+        services_.help.RunHelp(helpFile);
+    }
+}
+
 void GameScreen::mnuHelpAbout_Click() {
     guard_.run(Procedure::mnuHelpAbout_Click, [&] { services_.about.show(); });
 }

@@ -72,6 +72,7 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     void mnuOptionsShoot_Click() override;
     void mnuHelpContents_Click() override;
     void mnuHelpAbout_Click() override;
+    void helpKey() override;
 
     // Grid events.
     void flex_Click();

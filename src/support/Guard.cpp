@@ -2,7 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/Guard.h"
 
+#include <string>
+
 namespace marivox {
+
+void Guard::reportEscaped(std::string_view where, const std::exception& failure) {
+    const auto* known = dynamic_cast<const Failure*>(&failure);
+    const std::int32_t number =
+        known != nullptr ? known->number() : static_cast<std::int32_t>(FailureNumber::Internal);
+    const std::string description = known != nullptr ? known->description() : failure.what();
+    reports_.ReportError(number, description, " in " + std::string(where) + "()");
+}
 
 void Guard::handle(Procedure procedure, const Failure& failure, const FailureSteps& steps) {
     try {

@@ -30,6 +30,11 @@ class Guard {
     explicit Guard(ErrorReports& reports) : reports_(reports) {}
 
     void setFaultInjector(FaultInjector* faults) { faults_ = faults; }
+
+    // A failure that no guarded procedure caught, met where the platform called in (a fault
+    // of an adapter's own): reported as the error report does, naming that place, and the
+    // program goes on.
+    void reportEscaped(std::string_view where, const std::exception& failure);
     ErrorReports& reports() { return reports_; }
 
     template <class Body>

@@ -57,8 +57,7 @@ struct LegendLabel {
 
 }  // namespace
 
-GameWindowQt::GameWindowQt(QtApplication& application, std::function<void()> openHelp)
-    : application_(application), openHelp_(std::move(openHelp)) {
+GameWindowQt::GameWindowQt(QtApplication& application) : application_(application) {
     setObjectName("GameScreen");
     setWindowTitle("Marivox");
     setAccessibleName("Marivox");
@@ -142,8 +141,8 @@ bool GameWindowQt::eventFilter(QObject* watched, QEvent* event) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
     const std::int16_t code = gameKeyCode(key);
     events_->Form_KeyDown(code, gameShiftState(key.modifiers()));
-    if (code == KeyCode::F1 && openHelp_) {
-        openHelp_();  // the platform's help key
+    if (code == KeyCode::F1) {
+        events_->helpKey();
         return true;
     }
     return false;

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QMainWindow>
-#include <functional>
 
 #include "platform/Windows.h"
 #include "platform/qt/BoardGrid.h"
@@ -20,8 +19,7 @@ class QtApplication;
 class GameWindowQt : public QMainWindow, public GameWindow {
     Q_OBJECT
   public:
-    // `openHelp` opens the application's help document: what the platform's help key does.
-    GameWindowQt(QtApplication& application, std::function<void()> openHelp);
+    explicit GameWindowQt(QtApplication& application);
     ~GameWindowQt() override;
 
     void load(GameScreenEvents& events) override;
@@ -43,7 +41,6 @@ class GameWindowQt : public QMainWindow, public GameWindow {
     bool isOwnControl(QObject* object) const;
 
     QtApplication& application_;
-    std::function<void()> openHelp_;
     GameScreenEvents* events_ = nullptr;
     BoardGrid* grid_;
 };

@@ -9,8 +9,10 @@ namespace {
 
 class QtOneShotTimer : public OneShotTimer {
   public:
-    QtOneShotTimer(std::chrono::milliseconds interval, std::function<void()> onTick)
+    QtOneShotTimer(std::string_view name, std::chrono::milliseconds interval,
+                   std::function<void()> onTick)
         : onTick_(std::move(onTick)) {
+        timer_.setObjectName(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
         timer_.setSingleShot(true);
         timer_.setTimerType(Qt::PreciseTimer);
         timer_.setInterval(interval);
@@ -42,10 +44,10 @@ class QtOneShotTimer : public OneShotTimer {
 
 }  // namespace
 
-std::unique_ptr<OneShotTimer> QtTimerFactory::createTimer(std::string_view,
+std::unique_ptr<OneShotTimer> QtTimerFactory::createTimer(std::string_view name,
                                                           std::chrono::milliseconds interval,
                                                           std::function<void()> onTick) {
-    return std::make_unique<QtOneShotTimer>(interval, std::move(onTick));
+    return std::make_unique<QtOneShotTimer>(name, interval, std::move(onTick));
 }
 
 }  // namespace marivox::qt

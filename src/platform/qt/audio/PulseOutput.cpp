@@ -90,8 +90,8 @@ AudioConnector pulseConnector() {
     };
 }
 
-std::unique_ptr<StreamWavPlayer> makePulseWavPlayer() {
-    return std::make_unique<StreamWavPlayer>(pulseConnector());
+std::unique_ptr<StreamWavPlayer> makePulseWavPlayer(StreamWavPlayer::FailureHandler onFailure) {
+    return std::make_unique<StreamWavPlayer>(pulseConnector(), PlayerLimits{}, std::move(onFailure));
 }
 
 }  // namespace marivox::audio

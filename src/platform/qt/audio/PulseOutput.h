@@ -14,6 +14,6 @@ namespace marivox::audio {
 AudioConnector pulseConnector();
 
 // The game's WAV player on the desktop's sound server.
-std::unique_ptr<StreamWavPlayer> makePulseWavPlayer();
+std::unique_ptr<StreamWavPlayer> makePulseWavPlayer(StreamWavPlayer::FailureHandler onFailure = {});
 
 }  // namespace marivox::audio

@@ -35,6 +35,7 @@ struct StreamWavPlayer::Shared {
 
     AudioConnector connector;
     PlayerLimits limits;
+    FailureHandler onFailure;  // called on the worker thread
 
     std::mutex mutex;
     std::condition_variable wake;      // the worker waits on it
@@ -91,44 +92,42 @@ void closeStream(StreamWavPlayer::Shared& s, Lock& lock, std::unique_ptr<AudioSt
     });
 }
 
-void runWorker(const std::shared_ptr<StreamWavPlayer::Shared>& shared) {
-    auto& s = *shared;
-    Lock lock(s.mutex);
-    // Connecting at once spares the first sound the connection's delay.
-    std::unique_ptr<AudioStream> stream = connect(s, lock);
-    Clock::time_point retryAt =
-        Clock::now() + (stream ? std::chrono::milliseconds(0) : s.limits.retryAfter);
+struct WorkerState {
+    std::unique_ptr<AudioStream> stream;
+    Clock::time_point retryAt;
     Clock::time_point idleSince = Clock::now();
     bool soundsPending = false;  // written since the last endOfSounds
+};
 
+void playUntilStopped(StreamWavPlayer::Shared& s, Lock& lock, WorkerState& w) {
     while (!s.aborting) {
         if (s.queue.empty()) {
-            if (soundsPending) {
-                soundsPending = false;
-                if (stream && !inDevice(s, lock, [&] { return stream->endOfSounds(); })) {
-                    closeStream(s, lock, stream);
+            if (w.soundsPending) {
+                w.soundsPending = false;
+                if (w.stream && !inDevice(s, lock, [&] { return w.stream->endOfSounds(); })) {
+                    closeStream(s, lock, w.stream);
                 }
-                idleSince = Clock::now();
+                w.idleSince = Clock::now();
                 continue;
             }
             if (s.stopping) {
                 break;
             }
-            if (!stream) {
+            if (!w.stream) {
                 s.wake.wait(lock, [&] { return s.hasWork(); });
-            } else if (!s.wake.wait_until(lock, idleSince + s.limits.closeIdleAfter,
+            } else if (!s.wake.wait_until(lock, w.idleSince + s.limits.closeIdleAfter,
                                           [&] { return s.hasWork(); })) {
-                closeStream(s, lock, stream);
+                closeStream(s, lock, w.stream);
             }
             continue;
         }
-        if (!stream && Clock::now() >= retryAt) {
-            stream = connect(s, lock);
-            if (!stream) {
-                retryAt = Clock::now() + s.limits.retryAfter;
+        if (!w.stream && Clock::now() >= w.retryAt) {
+            w.stream = connect(s, lock);
+            if (!w.stream) {
+                w.retryAt = Clock::now() + s.limits.retryAfter;
             }
         }
-        if (!stream) {
+        if (!w.stream) {
             // Nobody can hear it; keeping it would only play it late, out of context.
             s.dropQueue();
             continue;
@@ -143,33 +142,65 @@ void runWorker(const std::shared_ptr<StreamWavPlayer::Shared>& shared) {
             s.queue.pop_front();
         }
         const bool written = inDevice(s, lock, [&] {
-            return stream->write(std::span<const std::int16_t>(samples->data() + start, count));
+            return w.stream->write(std::span<const std::int16_t>(samples->data() + start, count));
         });
         if (written) {
-            soundsPending = true;
+            w.soundsPending = true;
         } else {
             // The server died: what waits would come out of context later, and the next
             // sound tries a fresh connection.
-            closeStream(s, lock, stream);
+            closeStream(s, lock, w.stream);
             s.dropQueue();
-            soundsPending = false;
-            retryAt = Clock::now();
+            w.soundsPending = false;
+            w.retryAt = Clock::now();
         }
     }
-    if (stream && !s.aborting) {
-        inDevice(s, lock, [&] { return stream->drain(); });
+}
+
+void runWorker(const std::shared_ptr<StreamWavPlayer::Shared>& shared) {
+    auto& s = *shared;
+    Lock lock(s.mutex);
+    WorkerState w;
+    for (bool starting = true;; starting = false) {
+        try {
+            if (starting) {
+                // Connecting at once spares the first sound the connection's delay.
+                w.stream = connect(s, lock);
+                w.retryAt = Clock::now() + (w.stream ? std::chrono::milliseconds(0)
+                                                     : s.limits.retryAfter);
+            }
+            playUntilStopped(s, lock, w);
+            break;
+        } catch (const std::exception& failure) {
+            // A fault of ours rather than the device's: the sound in hand is given up, the
+            // owner is told, and the worker goes on with a fresh stream.
+            s.dropQueue();
+            w.soundsPending = false;
+            w.retryAt = Clock::now();
+            closeStream(s, lock, w.stream);
+            if (s.onFailure) {
+                lock.unlock();
+                s.onFailure(failure);
+                lock.lock();
+            }
+        }
     }
-    closeStream(s, lock, stream);
+    if (w.stream && !s.aborting) {
+        inDevice(s, lock, [&] { return w.stream->drain(); });
+    }
+    closeStream(s, lock, w.stream);
     s.finished = true;
     s.finishes.notify_all();
 }
 
 }  // namespace
 
-StreamWavPlayer::StreamWavPlayer(AudioConnector connector, PlayerLimits limits)
+StreamWavPlayer::StreamWavPlayer(AudioConnector connector, PlayerLimits limits,
+                                 FailureHandler onFailure)
     : shared_(std::make_shared<Shared>()) {
     shared_->connector = std::move(connector);
     shared_->limits = limits;
+    shared_->onFailure = std::move(onFailure);
     worker_ = std::thread(runWorker, shared_);
 }
 

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <chrono>
+#include <exception>
+#include <functional>
 #include <memory>
 #include <thread>
 
@@ -32,7 +34,11 @@ struct PlayerLimits {
 // device the sounds are dropped and the game goes on in silence.
 class StreamWavPlayer final : public WavPlayer {
   public:
-    explicit StreamWavPlayer(AudioConnector connector, PlayerLimits limits = {});
+    // Told, on the worker thread, of a failure of the player's own while it played.
+    using FailureHandler = std::function<void(const std::exception&)>;
+
+    explicit StreamWavPlayer(AudioConnector connector, PlayerLimits limits = {},
+                             FailureHandler onFailure = {});
     ~StreamWavPlayer() override;
     StreamWavPlayer(const StreamWavPlayer&) = delete;
     StreamWavPlayer& operator=(const StreamWavPlayer&) = delete;
