@@ -14,7 +14,10 @@ def main(window_id):
     event = protocol.event.ClientMessage(window=window, client_type=screen.intern_atom("WM_PROTOCOLS"),
                                          data=(32, [delete, X.CurrentTime, 0, 0, 0]))
     window.send_event(event, event_mask=X.NoEventMask)
-    screen.flush()
+    # A round trip, not a flush: the X server drops the unread requests of a client that has
+    # hung up, so leaving right after a flush lost about one close in fifteen under load.
+    screen.sync()
+    screen.close()
 
 
 if __name__ == "__main__":

@@ -281,6 +281,17 @@ class Session:
         subprocess.run(["/usr/bin/python3", os.path.join(HERE, "close_window.py"), window],
                        env=self._base_env(), check=True)
 
+    def state(self):
+        """For a failure's message: whether the game still runs, and the end of its output."""
+        code = self.game.poll() if self.game else None
+        try:
+            with open(os.path.join(self.dir, "game.log"), errors="replace") as log:
+                tail = log.read()[-2000:]
+        except OSError:
+            tail = ""
+        return "game %s; its output: %r" % ("running" if code is None else "ended (%s)" % code,
+                                           tail)
+
     def game_ended(self, timeout):
         try:
             self.game.wait(timeout)
@@ -365,6 +376,20 @@ class Session:
             elif alert_depth is not None and role == "label" and name:
                 texts.append(name)
         return texts
+
+    def wait_for_alert(self, fragment, timeout=10):
+        """Waits until a box whose text holds `fragment` is open; the texts of the boxes."""
+        shown = wait_until(lambda: [t for t in self.alerts() if fragment in t] and self.alerts(),
+                           timeout)
+        if not shown:
+            raise AssertionError("no box saying %r; heard %r; %s" % (fragment, self.texts(),
+                                                                    self.state()))
+        return shown
+
+    def wait_past(self, stamp, seconds):
+        """Waits until `seconds` have passed since `stamp`, a time of the speech log, so that
+        whatever the game would have said by then has been said."""
+        wait_until(lambda: time.time() - self.started_at >= stamp + seconds, seconds + 1)
 
     def answer_alerts(self, limit=20):
         """Presses Enter on each box in turn; their texts."""

@@ -8,7 +8,6 @@ report), and the stored choice never lost.
 
 import os
 import sys
-import time
 import unittest
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
@@ -35,14 +34,20 @@ class Hostile(test_marivox.GameTest):
         with open(self.session.settings_path(), "rb") as conf:
             return conf.read()
 
+    def wait_for_the_game_to_begin(self):
+        """A game begins with its two sounds, after any report of the start-up and about a
+        second after the opening prompt would have been spoken."""
+        if not harness.wait_until(lambda: "sonar" in self.session.sounds_heard(), 20):
+            self.fail("no game began; boxes open: %r" % self.session.alerts())
+
     def exit_question_shown(self):
         return any("exit the program" in text for text in self.session.alerts())
 
     def exit_game(self, window):
         self.session.close_window(window)
         if not harness.wait_until(self.exit_question_shown, 10):
-            self.fail("no exit question after closing the window; heard: %r"
-                      % self.session.texts())
+            self.fail("no exit question after closing window %s; heard: %r; %s"
+                      % (window, self.session.texts(), self.session.state()))
         self.session.keys("Return")
         if not self.session.game_ended(15):
             self.fail("the game did not end; boxes open: %r, heard: %r"
@@ -62,7 +67,7 @@ class Settings(Hostile):
                 before = self.settings_bytes()
                 session.launch()
                 window = session.window_id()
-                time.sleep(2)
+                self.wait_for_the_game_to_begin()
                 self.assertEqual(self.session.alerts(), [])
                 self.assertEqual(session.texts()[:3] == PROMPT, speaks, session.texts())
                 self.exit_game(window)
@@ -73,7 +78,7 @@ class Settings(Hostile):
         self.write_settings(content)
         self.session.launch()
         window = self.session.window_id(timeout=20)
-        time.sleep(2)
+        self.wait_for_the_game_to_begin()
         self.assertEqual((self.session.alerts(), self.session.texts()), ([], []))
         self.exit_game(window)
         self.assertEqual(self.settings_bytes(), content)
@@ -141,7 +146,24 @@ class Files(Hostile):
         self.session.window_id("Marivox Help", timeout=10)
         tree = "\n".join(self.session.accessible_tree())
         self.assertIn("text contents|The Marivox help could not be opened.", tree)
-        self.assertFalse(self.session.game_ended(0.2))
+        self.session.keys("F2", window=window)
+        self.session.wait_for_text(" You have sank  0 of my ships.  ")
+
+    def test_a_help_viewer_that_cannot_start_is_reported_and_play_goes_on(self):
+        self.session.program_copy(leave_out=("marivox-help",))
+        self.session.launch()
+        window = self.session.window_id()
+        self.session.wait_for_text(PROMPT[-1])
+        self.session.keys("F1", window=window)
+        self.assertTrue(harness.wait_until(self.session.alerts, 10))
+        reports = self.session.answer_alerts()
+        self.assertEqual(len(reports), 1, reports)
+        self.assertRegex(reports[0], r"^The help viewer .*marivox-help could not be started"
+                                     r" in RunHelp\(\)$")
+        heard = len(self.session.texts())
+        self.session.keys("F2", window=window)
+        self.session.wait_for_text(" You have sank  0 of my ships.  ", after=heard)
+        self.exit_game(window)
 
 
 class Services(Hostile):
