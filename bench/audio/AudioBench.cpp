@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "PrivatePulse.h"
-#include "platform/qt/audio/PulseOutput.h"
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
+#include "platform/pulse/PulseOutput.h"
 
 namespace {
 
@@ -85,7 +85,7 @@ int main() {
     for (int round = 0; round < 8; ++round) {
         const bool cold = round == 0;
         if (cold) {
-            player = audio::makePulseWavPlayer();
+            player = pulse::makePulseWavPlayer();
         } else {
             std::this_thread::sleep_for(400ms);  // the stream has run dry, as between turns
         }

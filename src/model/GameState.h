@@ -6,12 +6,9 @@
 
 #include "model/Ocean.h"
 #include "model/Ships.h"
+#include "support/Flags.h"
 
 namespace marivox {
-
-// Flags kept as 16-bit integers are exactly one of these two values.
-inline constexpr std::int16_t kTrue = -1;
-inline constexpr std::int16_t kFalse = 0;
 
 // TurnState values.
 inline constexpr std::int16_t kPlayersTurn = 1;
@@ -38,6 +35,10 @@ struct GameState {
     std::int16_t HalCol = 0;
     std::int16_t TurnState = 0;
     std::int16_t Shooting = kFalse;
+
+    // The game screen's two flags: a game is under way; a game is being set up.
+    std::int16_t GameInProgress = kFalse;
+    std::int16_t SettingUp = kFalse;
 
     // The computer's hunt of a ship it has hit.
     std::int16_t HalHitCount = 0;

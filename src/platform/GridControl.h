@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -36,6 +37,11 @@ class GridControl {
     virtual ~GridControl() = default;
 
     virtual void setListener(GridEvents* events) = 0;
+
+    // How assistive technology names a playing cell showing `mark`: the game decides, the
+    // control shows it to whoever asks.
+    using CellDescriber = std::function<std::string(int row, int col, std::string_view mark)>;
+    virtual void setCellDescriber(CellDescriber describer) = 0;
 
     virtual int rows() const = 0;
     virtual void setRows(int rows) = 0;

@@ -5,6 +5,7 @@
 #include "model/Ships.h"
 #include "screen/GameScreen.h"
 #include "screen/ScreenTexts.h"
+#include "speech/ScreenReaderState.h"
 #include "speech/Speech.h"
 #include "support/Guard.h"
 
@@ -16,7 +17,28 @@ constexpr Rgb kDarkBlue{0, 0, 128};
 constexpr Rgb kLightGrey{192, 192, 192};
 constexpr int kHeadingTwips = 300;
 
+// What is known of a cell from its mark, as the cursor's speech adds it; nothing for a cell
+// not fired at.
+std::string_view markPhrase(std::string_view mark) {
+    if (mark == "M") {
+        return screen::kCursorMissText;
+    }
+    if (const auto ship = shipWithLetter(mark)) {
+        return shipInfo(*ship).cursorText;
+    }
+    return {};
+}
+
 }  // namespace
+
+std::string GameScreen::describeCell(int row, int col, std::string_view mark) {
+    std::string text = rowLetter(static_cast<std::int16_t>(row)) + " " + std::to_string(col);
+    if (const std::string_view phrase = trimmedBlanks(markPhrase(mark)); !phrase.empty()) {
+        text += ", ";
+        text += phrase;
+    }
+    return text;
+}
 
 void GameScreen::LoadGrid() {
     guard_.run(Procedure::LoadGrid, [&] {
@@ -50,7 +72,7 @@ void GameScreen::LoadGrid() {
 void GameScreen::flex_RowColChange() {
     guard_.run(Procedure::flex_RowColChange, [&] {
         // Silent while a game is being set up and while the computer has the turn.
-        if (SettingUp == kFalse && state_.TurnState == kPlayersTurn) {
+        if (state_.SettingUp == kFalse && state_.TurnState == kPlayersTurn) {
             speech_.StopSpeech();
             SpeakCurrentCell();
         }
@@ -61,12 +83,7 @@ void GameScreen::SpeakCurrentCell() {
     guard_.run(Procedure::SpeakCurrentCell, [&] {
         speech_.StopSpeech();
         std::string sentence = cursorCellName();
-        const std::string mark = flex_.text();
-        if (mark == "M") {
-            sentence += screen::kCursorMissText;
-        } else if (const auto ship = shipWithLetter(mark)) {
-            sentence += shipInfo(*ship).cursorText;
-        }
+        sentence += markPhrase(flex_.text());
         speech_.Speak(sentence);
     });
 }

@@ -9,12 +9,24 @@
 #include "screen/ScreenTexts.h"
 #include "speech/ScreenReaderChoice.h"
 #include "speech/ScreenReaderState.h"
+#include "speech/SoundFiles.h"
 #include "speech/Speech.h"
 #include "support/Guard.h"
 #include "support/HelpCommands.h"
 #include "support/Titles.h"
 
 namespace marivox {
+namespace {
+
+using namespace std::chrono_literals;
+
+// The pace of a game; none of the four ever changes.
+constexpr auto kStartDelay = 100ms;  // before the opening prompt
+constexpr auto kHalDelay = 2000ms;   // before the computer names its target
+constexpr auto kTimer1 = 2500ms;     // before the computer fires
+constexpr auto kTimer2 = 2000ms;     // before reminding the player of the turn
+
+}  // namespace
 
 using namespace screen;
 
@@ -36,20 +48,21 @@ GameScreen::GameScreen(const GameScreenServices& s)
       targeting_(s.state, s.guard, s.random, *tmrHalDelay_),
       halShots_(s.state, s.guard, s.speech, s.sounds, targeting_) {
     flex_.setListener(this);
+    flex_.setCellDescriber(&GameScreen::describeCell);
 }
 
 void GameScreen::Form_Load() {
     Application& application = services_.application;
     application.setHelpFile(application.programFolder() + std::string(kHelpFileName));
     application.setTitle(std::string(kApplicationTitle));
-    GameInProgress = kFalse;
+    state_.GameInProgress = kFalse;
 }
 
 void GameScreen::BeginGame() {
     guard_.run(Procedure::BeginGame, [&] {
-        sounds_.PlaySound("\\begin.wav");
-        sounds_.PlaySound("\\sonar.wav");
-        SettingUp = kTrue;
+        sounds_.PlaySound(sound::Begin);
+        sounds_.PlaySound(sound::Sonar);
+        state_.SettingUp = kTrue;
         LoadGrid();
         boards_.InitializeBoards();
         placement_.placeBothFleets();
@@ -58,9 +71,9 @@ void GameScreen::BeginGame() {
                 flex_.setTextMatrix(row, col, " ");
             }
         }
-        SettingUp = kFalse;
+        state_.SettingUp = kFalse;
         state_.TurnState = kPlayersTurn;
-        GameInProgress = kTrue;
+        state_.GameInProgress = kTrue;
         // Speech is left alone: the opening prompt cuts in a moment later.
         tmrStartDelay_->switchOn();
     });
@@ -89,7 +102,7 @@ std::string GameScreen::turnReminder() {
 
 void GameScreen::mnuGameNew_Click() {
     guard_.run(Procedure::mnuGameNew_Click, [&] {
-        if (GameInProgress != kTrue) {
+        if (state_.GameInProgress != kTrue) {
             return;
         }
         const int answer = services_.boxes.show(
@@ -110,7 +123,7 @@ void GameScreen::Form_Unload(std::int16_t& cancel) {
     guard_.run(
         Procedure::GameScreen_Form_Unload,
         [&] {
-            if (GameInProgress == kTrue) {
+            if (state_.GameInProgress == kTrue) {
                 const int answer = services_.boxes.show(
                     kExitQuestion, MsgBoxStyle::YesNo + MsgBoxStyle::Question, kGameScreenCaption);
                 if (answer != MsgBoxAnswer::Yes) {
@@ -120,7 +133,7 @@ void GameScreen::Form_Unload(std::int16_t& cancel) {
                 }
             }
             services_.window.unloadOtherWindows();
-            sounds_.PlaySound("\\end.wav");
+            sounds_.PlaySound(sound::End);
             releaseWindowEyesIfChosen();
         },
         FailureSteps::after([&] { services_.application.endNow(); }));

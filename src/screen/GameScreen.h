@@ -11,9 +11,9 @@
 #include "model/Boards.h"
 #include "model/Placement.h"
 #include "model/PlayerShots.h"
+#include "platform/Forms.h"
 #include "platform/GridControl.h"
 #include "platform/OneShotTimer.h"
-#include "platform/Windows.h"
 
 namespace marivox {
 
@@ -52,9 +52,8 @@ class GameScreen : public GameScreenEvents, public GridEvents {
   public:
     explicit GameScreen(const GameScreenServices& services);
 
-    // The window's two flags.
-    std::int16_t GameInProgress = 0;
-    std::int16_t SettingUp = 0;
+    // The accessible name of a playing cell: "C 4, miss".
+    static std::string describeCell(int row, int col, std::string_view mark);
 
     void BeginGame();
     void LoadGrid();

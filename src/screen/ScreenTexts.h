@@ -2,17 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <chrono>
 #include <string_view>
 
 namespace marivox::screen {
-
-using namespace std::chrono_literals;
-
-inline constexpr auto kStartDelay = 100ms;  // before the opening prompt
-inline constexpr auto kHalDelay = 2000ms;   // before the computer names its target
-inline constexpr auto kTimer1 = 2500ms;     // before the computer fires
-inline constexpr auto kTimer2 = 2000ms;     // before reminding the player of the turn
 
 inline constexpr std::string_view kCrLf = "\r\n";
 inline constexpr std::string_view kNewGameQuestion =

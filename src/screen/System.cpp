@@ -17,7 +17,7 @@ System::System(const PlatformPorts& p, std::uint64_t seed)
       about(p.aboutBox, p.application),
       screen({state, guard, speech, sounds, random, reader, readerChoice, help, about, p.window,
               p.timers, p.boxes, p.application}) {
-    reports.attachSpeech(speech);
+    reports.speakThrough([this](std::string_view text) { speech.Speak(text); });
 }
 
 void System::Main() {

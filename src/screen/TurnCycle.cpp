@@ -6,6 +6,7 @@
 #include "platform/MessageBoxes.h"
 #include "screen/GameScreen.h"
 #include "screen/ScreenTexts.h"
+#include "speech/SoundFiles.h"
 #include "speech/Speech.h"
 #include "support/Guard.h"
 #include "support/Titles.h"
@@ -35,9 +36,9 @@ void GameScreen::flex_Click() {
         flex_.setCellForeColor(flex_.foreColor());
         state_.Shooting = kFalse;
         if (boards_.GameOver()) {
-            sounds_.PlaySound("\\youwin1.wav");
-            sounds_.PlaySound("\\youwin2.wav");
-            GameInProgress = kFalse;
+            sounds_.PlaySound(sound::YouWin1);
+            sounds_.PlaySound(sound::YouWin2);
+            state_.GameInProgress = kFalse;
             askToPlayAgain(kPlayerWins);
         } else if (state_.TurnState == kComputersTurn) {
             // A fresh shot during the computer's turn re-aims it; running timers go on.
@@ -73,8 +74,8 @@ void GameScreen::tmrTimer1_Timer() {
             state_.TurnState = kPlayersTurn;
             tmrTimer2_->switchOn();
         } else {
-            sounds_.PlaySound("\\laugh1.wav");
-            GameInProgress = kFalse;
+            sounds_.PlaySound(sound::Laugh1);
+            state_.GameInProgress = kFalse;
             askToPlayAgain(kComputerWins);
         }
         // Only after the answer, so the timer cannot tick into the open question.

@@ -4,11 +4,11 @@
 
 #include <string>
 
-#include "model/GameState.h"
 #include "platform/MessageBoxes.h"
 #include "platform/ScreenReaders.h"
 #include "platform/SettingsStore.h"
 #include "speech/ScreenReaderState.h"
+#include "support/Flags.h"
 #include "support/Guard.h"
 
 namespace marivox {

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "platform/Windows.h"
+#include "platform/Forms.h"
 
 namespace marivox {
 

@@ -6,7 +6,6 @@
 
 #include "platform/Application.h"
 #include "platform/MessageBoxes.h"
-#include "speech/Speech.h"
 #include "support/Titles.h"
 
 namespace marivox {
@@ -39,15 +38,15 @@ void ErrorReports::ShowError(const std::string& description, const std::string& 
 }
 
 void ErrorReports::showErrorBody(const std::string& description, const std::string& label) {
-    if (speech_ != nullptr) {
+    if (speak_) {
         struct SpeakingReport {
             bool& flag;
             bool was = flag;
             explicit SpeakingReport(bool& f) : flag(f) { flag = true; }
             ~SpeakingReport() { flag = was; }
         } speaking(speakingReport_);
-        speech_->Speak(description);
-        speech_->Speak(label);
+        speak_(description);
+        speak_(label);
     }
     boxes_.show(description + ";" + label, MsgBoxStyle::OkOnly + MsgBoxStyle::Information,
                 kGameScreenCaption);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -13,7 +14,6 @@ namespace marivox {
 
 class Application;
 class MessageBoxes;
-class Speech;
 
 // The two forms in which a guarded procedure tells the player about a failure.
 class ErrorReports {
@@ -22,7 +22,7 @@ class ErrorReports {
 
     // ShowError speaks through the game's speech, which in turn reports its own failures
     // here; the two are wired after both exist.
-    void attachSpeech(Speech& speech) { speech_ = &speech; }
+    void speakThrough(std::function<void(std::string_view)> speak) { speak_ = std::move(speak); }
 
     void ReportError(std::int32_t number, std::string_view description, std::string_view label);
     void ShowError(const std::string& description, const std::string& label);
@@ -36,7 +36,7 @@ class ErrorReports {
 
     MessageBoxes& boxes_;
     Application& application_;
-    Speech* speech_ = nullptr;
+    std::function<void(std::string_view)> speak_;
     // Set while ShowError speaks a report: a speech failure then is the report's own and is
     // not reported again, or a broken speech service would report without end.
     bool speakingReport_ = false;

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/Windows.h"
+#include "platform/Forms.h"
 
 namespace marivox {
 

@@ -23,7 +23,9 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 SOURCE = os.path.dirname(os.path.dirname(HERE))
 BUILD = os.environ.get("MARIVOX_BUILD_DIR", os.path.join(SOURCE, "build"))
 SAMPLE_RATE = 44100
-SOUNDS = ["begin", "sonar", "shoot", "hit", "sink", "youwin1", "youwin2", "laugh1", "end"]
+# The game's own list of its sounds, by the name before ".wav".
+with open(os.path.join(SOURCE, "src", "speech", "SoundFiles.h")) as _list:
+    SOUNDS = re.findall(r'= "\\\\(\w+)\.wav";', _list.read())
 
 
 class SessionError(RuntimeError):

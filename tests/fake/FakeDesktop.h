@@ -8,7 +8,7 @@
 
 #include "fake/FakeGrid.h"
 #include "fake/Transcript.h"
-#include "platform/Windows.h"
+#include "platform/Forms.h"
 
 namespace marivox::fake {
 

@@ -20,6 +20,11 @@ class FakeGrid : public GridControl {
     explicit FakeGrid(Transcript& transcript) : transcript_(transcript) { resize(); }
 
     void setListener(GridEvents* events) override { events_ = events; }
+    void setCellDescriber(CellDescriber describer) override { describer_ = std::move(describer); }
+    // The name assistive technology would hear for a playing cell.
+    std::string describe(int row, int col) const {
+        return describer_(row, col, textMatrix(row, col));
+    }
 
     int rows() const override { return rows_; }
     void setRows(int rows) override;
@@ -67,6 +72,7 @@ class FakeGrid : public GridControl {
 
     Transcript& transcript_;
     GridEvents* events_ = nullptr;
+    CellDescriber describer_;
     int rows_ = 2;
     int cols_ = 2;
     int fixedRows_ = 1;

@@ -26,7 +26,7 @@ namespace marivox::fake {
 // The rules of the game wired to fakes, for tests that exercise them without a screen.
 struct RulesRig {
     explicit RulesRig(std::uint64_t seed = 1) : clock(seed, 7919), generator(clock, seed) {
-        reports.attachSpeech(speech);
+        reports.speakThrough([this](std::string_view text) { speech.Speak(text); });
         guard.setFaultInjector(&faults);
         grid.setRows(10);
         grid.setCols(10);

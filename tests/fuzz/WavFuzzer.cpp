@@ -9,7 +9,7 @@
 #include <cstdlib>
 #include <span>
 
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
 #include "support/Failure.h"
 
 namespace {

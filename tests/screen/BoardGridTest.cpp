@@ -55,6 +55,10 @@ TEST(CursorSpeech, NamesTheCellAndWhatIsKnownOfIt) {
     EXPECT_EQ(rig.transcript.linesStartingWith("speak"),
               (Lines{"speak \"C  5 hit destroyer  \"", "speak \"C  6 hit air craft carrier  \"",
                      "speak \"C  5 hit destroyer  \"", "speak \"C  4 miss  \""}));
+    // Assistive technology that asks is told the same, in its own form.
+    EXPECT_EQ(rig.grid().describe(3, 3), "C 3");
+    EXPECT_EQ(rig.grid().describe(3, 4), "C 4, miss");
+    EXPECT_EQ(rig.grid().describe(3, 6), "C 6, hit air craft carrier");
 }
 
 TEST(CursorSpeech, IsSilentInTheComputersTurnAndWhileSettingUp) {
@@ -63,7 +67,7 @@ TEST(CursorSpeech, IsSilentInTheComputersTurnAndWhileSettingUp) {
     rig.state().TurnState = kComputersTurn;
     rig.grid().playerMovesTo(6, 6);
     rig.state().TurnState = kPlayersTurn;
-    rig.screen().SettingUp = kTrue;
+    rig.state().SettingUp = kTrue;
     rig.grid().playerMovesTo(7, 7);
     EXPECT_TRUE(rig.transcript.lines().empty());
 }

@@ -66,8 +66,8 @@ TEST(StartUp, BeginGameLeavesABlankBoardFleetsLaidAndThePlayersTurn) {
     EXPECT_EQ(rig.grid().row(), 1);
     EXPECT_EQ(rig.grid().col(), 1);
     EXPECT_EQ(rig.state().TurnState, kPlayersTurn);
-    EXPECT_EQ(rig.screen().GameInProgress, kTrue);
-    EXPECT_EQ(rig.screen().SettingUp, kFalse);
+    EXPECT_EQ(rig.state().GameInProgress, kTrue);
+    EXPECT_EQ(rig.state().SettingUp, kFalse);
     EXPECT_EQ(consistencyProblem(rig.state()), "");
     EXPECT_TRUE(rig.cellHolding(rig.state().HalOcean, 15).has_value());
     EXPECT_TRUE(rig.cellHolding(rig.state().MyOcean, 10).has_value());
@@ -76,7 +76,7 @@ TEST(StartUp, BeginGameLeavesABlankBoardFleetsLaidAndThePlayersTurn) {
 TEST(NewGame, DoesNothingWhenNoGameIsUnderWay) {
     fake::ScreenRig rig;
     rig.startAndSettle();
-    rig.screen().GameInProgress = kFalse;
+    rig.state().GameInProgress = kFalse;
     rig.screen().mnuGameNew_Click();
     EXPECT_TRUE(rig.transcript.lines().empty());
 }
@@ -165,7 +165,7 @@ TEST(Exit, AnsweredYesClosesOtherWindowsPlaysTheEndSoundAndCloses) {
 TEST(Exit, WithNoGameUnderWayAsksNothing) {
     fake::ScreenRig rig;
     rig.startAndSettle();
-    rig.screen().GameInProgress = kFalse;
+    rig.state().GameInProgress = kFalse;
     rig.screen().mnuGameExit_Click();
     EXPECT_EQ(rig.transcript.lines(), (Lines{"window unload", "unload other windows",
                                              "sound /opt/marivox/end.wav", "window closed"}));
@@ -175,7 +175,7 @@ TEST(Exit, ReleasesTheWindowEyesObjectOnlyWhenItIsTheChoice) {
     for (const std::string stored : {"WE", " WE ", "JFW", "we"}) {
         fake::ScreenRig rig;
         rig.startAndSettle(stored);
-        rig.screen().GameInProgress = kFalse;
+        rig.state().GameInProgress = kFalse;
         rig.screen().mnuGameExit_Click();
         const bool windowEyes = stored == "WE" || stored == " WE ";
         EXPECT_EQ(rig.transcript.contains("we released"), windowEyes) << stored;

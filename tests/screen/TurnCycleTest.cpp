@@ -158,7 +158,7 @@ TEST_F(TurnCycleTest, WinningShotPlaysTheFanfareAndYesBeginsANewGame) {
                      "answer 6"}));
     EXPECT_EQ(*(sink + 5), "sound /opt/marivox/begin.wav");
     EXPECT_EQ(rig.state().MySunkCount, 0);
-    EXPECT_EQ(rig.screen().GameInProgress, kTrue);
+    EXPECT_EQ(rig.state().GameInProgress, kTrue);
 }
 
 TEST_F(TurnCycleTest, DecliningToPlayAgainEndsAtOnceWithoutTheExitSteps) {
@@ -169,7 +169,7 @@ TEST_F(TurnCycleTest, DecliningToPlayAgainEndsAtOnceWithoutTheExitSteps) {
     EXPECT_EQ(rig.transcript.lines().back(), "end program");
     EXPECT_FALSE(rig.transcript.contains("window unload"));
     EXPECT_FALSE(rig.transcript.contains("sound /opt/marivox/end.wav"));
-    EXPECT_EQ(rig.screen().GameInProgress, kFalse);
+    EXPECT_EQ(rig.state().GameInProgress, kFalse);
 }
 
 TEST_F(TurnCycleTest, ComputersWinningShotLaughsAsksAndKeepsTheTurn) {

@@ -75,7 +75,7 @@ std::string SoakInvariants::check(fake::ScreenRig& rig, const std::vector<std::s
     started_ = started_ || newGame;
     lastHal_ = state.HalOcean;
     lastMine_ = state.MyOcean;
-    if (!started_ || rig.screen().SettingUp == kTrue) {
+    if (!started_ || rig.state().SettingUp == kTrue) {
         return {};
     }
     // The marks change only when the grid is written to.

@@ -62,7 +62,7 @@ class BrokenSpeech : public Speech {
 TEST(ShowError, ASpeechFailureWhileSpeakingAReportIsNotReportedAgain) {
     fake::RulesRig rig;
     BrokenSpeech speech(rig.reports);
-    rig.reports.attachSpeech(speech);
+    rig.reports.speakThrough([&speech](std::string_view text) { speech.Speak(text); });
     speech.Speak("It is my turn targeting ");
     EXPECT_EQ(speech.attempts, 3);  // the text, then the report's two lines
     EXPECT_EQ(rig.transcript.lines(),

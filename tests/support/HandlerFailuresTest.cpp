@@ -58,11 +58,11 @@ TEST(HandlerFailures, StatusGoesOnWhenOneLineCannotBeSpoken) {
 TEST(HandlerFailures, BeginGameFailingAfterSetUpStartsLeavesSettingUpAndNoGame) {
     fake::ScreenRig rig;
     rig.startAndSettle();
-    rig.screen().GameInProgress = kFalse;
+    rig.state().GameInProgress = kFalse;
     rig.transcript.failAt("grid 5,5 \" \"");
     rig.screen().BeginGame();
-    EXPECT_EQ(rig.screen().SettingUp, kTrue);
-    EXPECT_EQ(rig.screen().GameInProgress, kFalse);
+    EXPECT_EQ(rig.state().SettingUp, kTrue);
+    EXPECT_EQ(rig.state().GameInProgress, kFalse);
     EXPECT_FALSE(rig.screen().tmrStartDelay().isOn());
 }
 

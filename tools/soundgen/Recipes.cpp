@@ -195,13 +195,18 @@ Signal end() {
 
 }  // namespace
 
-const std::vector<Recipe>& recipes() {
-    static const std::vector<Recipe> all{
+const Recipe* recipeFor(std::string_view fileName) {
+    static const Recipe all[]{
         {"begin.wav", begin},     {"sonar.wav", sonar},   {"shoot.wav", shoot},
         {"hit.wav", hit},         {"sink.wav", sink},     {"youwin1.wav", youwin1},
         {"youwin2.wav", youwin2}, {"laugh1.wav", laugh1}, {"end.wav", end},
     };
-    return all;
+    for (const Recipe& recipe : all) {
+        if (recipe.fileName == fileName) {
+            return &recipe;
+        }
+    }
+    return nullptr;
 }
 
 }  // namespace soundgen

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "Synth.h"
 
@@ -14,7 +14,7 @@ struct Recipe {
     Signal (*make)();
 };
 
-// The game's nine effects, by the file names the game asks for.
-const std::vector<Recipe>& recipes();
+// How to make the sound effect of that file name; null if we have no recipe for it.
+const Recipe* recipeFor(std::string_view fileName);
 
 }  // namespace soundgen

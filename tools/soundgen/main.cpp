@@ -4,8 +4,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <string_view>
 
 #include "Recipes.h"
+#include "speech/SoundFiles.h"
 
 namespace {
 
@@ -20,9 +22,15 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path folder = argv[1];
-    for (const auto& recipe : soundgen::recipes()) {
-        const auto image = soundgen::wavImage(soundgen::normalise(recipe.make(), kPeak));
-        const auto path = folder / recipe.fileName;
+    for (const std::string_view sound : marivox::sound::kAll) {
+        const std::string_view name = marivox::sound::fileName(sound);
+        const soundgen::Recipe* recipe = soundgen::recipeFor(name);
+        if (recipe == nullptr) {
+            std::cerr << "soundgen: no recipe for " << name << "\n";
+            return 1;
+        }
+        const auto image = soundgen::wavImage(soundgen::normalise(recipe->make(), kPeak));
+        const auto path = folder / name;
         std::ofstream file(path, std::ios::binary | std::ios::trunc);
         file.write(image.data(), static_cast<std::streamsize>(image.size()));
         if (!file.flush()) {

@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <functional>
 
-#include "platform/Windows.h"
+#include "platform/Forms.h"
 
 class QLabel;
 class QListWidget;

@@ -9,7 +9,7 @@
 #include <QMenuBar>
 
 #include "platform/KeyCodes.h"
-#include "platform/LatencyProbe.h"
+#include "platform/probe/LatencyLog.h"
 #include "platform/qt/KeyMapping.h"
 #include "platform/qt/ProgramIcon.h"
 #include "platform/qt/QtApplication.h"
@@ -57,7 +57,8 @@ struct LegendLabel {
 
 }  // namespace
 
-GameWindowQt::GameWindowQt(QtApplication& application) : application_(application) {
+GameWindowQt::GameWindowQt(QtApplication& application, probe::LatencyLog* latency)
+    : application_(application), latency_(latency) {
     setObjectName("GameScreen");
     setWindowTitle("Marivox");
     setAccessibleName("Marivox");
@@ -65,7 +66,7 @@ GameWindowQt::GameWindowQt(QtApplication& application) : application_(applicatio
     auto* client = new QWidget(this);
     client->setObjectName("client");
     setCentralWidget(client);
-    grid_ = new BoardGrid(client);
+    grid_ = new GridWidget(client);
     grid_->setGeometry(twipsRect(0, 0, 10000, 2800));
     buildMenus();
     buildLabels();
@@ -137,7 +138,9 @@ bool GameWindowQt::eventFilter(QObject* watched, QEvent* event) {
     if (watched != (firstReceiver != nullptr ? firstReceiver : this)) {
         return false;  // the same press travelling up to a parent
     }
-    probe::keyArrived();
+    if (latency_ != nullptr) {
+        latency_->keyArrived();
+    }
     const auto& key = static_cast<const QKeyEvent&>(*event);
     const std::int16_t code = gameKeyCode(key);
     events_->Form_KeyDown(code, gameShiftState(key.modifiers()));

@@ -4,11 +4,15 @@
 
 #include <QMainWindow>
 
-#include "platform/Windows.h"
-#include "platform/qt/BoardGrid.h"
+#include "platform/Forms.h"
+#include "platform/qt/GridWidget.h"
 
 class QAction;
 class QLabel;
+
+namespace marivox::probe {
+class LatencyLog;
+}
 
 namespace marivox::qt {
 
@@ -19,7 +23,8 @@ class QtApplication;
 class GameWindowQt : public QMainWindow, public GameWindow {
     Q_OBJECT
   public:
-    explicit GameWindowQt(QtApplication& application);
+    // `latency`, when there is one, is told of every key as it arrives.
+    explicit GameWindowQt(QtApplication& application, probe::LatencyLog* latency = nullptr);
     ~GameWindowQt() override;
 
     void load(GameScreenEvents& events) override;
@@ -28,7 +33,7 @@ class GameWindowQt : public QMainWindow, public GameWindow {
     void unloadOtherWindows() override;
     GridControl& grid() override { return *grid_; }
 
-    BoardGrid& board() { return *grid_; }
+    GridWidget& board() { return *grid_; }
     QAction* action(const char* name) const;
 
   protected:
@@ -41,8 +46,9 @@ class GameWindowQt : public QMainWindow, public GameWindow {
     bool isOwnControl(QObject* object) const;
 
     QtApplication& application_;
+    probe::LatencyLog* latency_;
     GameScreenEvents* events_ = nullptr;
-    BoardGrid* grid_;
+    GridWidget* grid_;
 };
 
 }  // namespace marivox::qt

@@ -10,8 +10,7 @@
 #include <cstdlib>
 #include <mutex>
 
-#include "platform/LatencyProbe.h"
-
+#include "platform/probe/LatencyLog.h"
 #include "support/Failure.h"
 
 namespace marivox::speechd {
@@ -45,8 +44,8 @@ std::string speechServiceAddress() {
     return address != nullptr && *address != '\0' ? address : "the default address";
 }
 
-SpeechdConnection::SpeechdConnection(std::string clientName)
-    : clientName_(std::move(clientName)), client_(std::make_unique<Client>()) {
+SpeechdConnection::SpeechdConnection(std::string clientName, probe::LatencyLog* latency)
+    : clientName_(std::move(clientName)), latency_(latency), client_(std::make_unique<Client>()) {
     ignoreBrokenPipes();
 }
 
@@ -94,9 +93,13 @@ void SpeechdConnection::connect() {
 void SpeechdConnection::say(std::string_view text) {
     connect();
     const std::string terminated(text);
-    probe::speechHandedOver();
+    if (latency_ != nullptr) {
+        latency_->speechHandedOver();
+    }
     const int result = spd_say(client_->connection, SPD_MESSAGE, terminated.c_str());
-    probe::speechDone();
+    if (latency_ != nullptr) {
+        latency_->speechDone();
+    }
     if (result < 0) {
         fail("did not take the text; the connection was lost");
     }

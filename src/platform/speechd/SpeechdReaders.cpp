@@ -13,7 +13,9 @@ constexpr std::string_view kSpeechClass = "GWSpeak.Speak";
 
 class SpeechdSpeechObject : public SpeechAutomationObject {
   public:
-    SpeechdSpeechObject() { connection_.connect(); }
+    explicit SpeechdSpeechObject(probe::LatencyLog* latency) : connection_("marivox", latency) {
+        connection_.connect();
+    }
     void SpeakString(std::string_view text) override { connection_.say(text); }
     void Silence() override { connection_.cancel(); }
 
@@ -41,7 +43,7 @@ std::unique_ptr<SpeechAutomationObject> SpeechdAutomationObjects::CreateObject(
                       "The speech object \"" + std::string(className) + "\" is not available");
     }
     try {
-        return std::make_unique<SpeechdSpeechObject>();
+        return std::make_unique<SpeechdSpeechObject>(latency_);
     } catch (const Failure& failure) {
         throw Failure(FailureNumber::SpeechObjectCreation,
                       "Window-Eyes speech could not be started. " + failure.description());

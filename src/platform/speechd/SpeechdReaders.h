@@ -11,6 +11,9 @@ namespace marivox::speechd {
 // first call, and it speaks through speech-dispatcher.
 class SpeechdJawsApi : public JawsApi {
   public:
+    explicit SpeechdJawsApi(probe::LatencyLog* latency = nullptr)
+        : connection_("marivox", latency) {}
+
     void JFWSayString(std::string_view text, bool interrupt) override;
     void JFWStopSpeech() override;
 
@@ -22,7 +25,12 @@ class SpeechdJawsApi : public JawsApi {
 // once, so a missing service is reported when the player makes the choice.
 class SpeechdAutomationObjects : public AutomationObjects {
   public:
+    explicit SpeechdAutomationObjects(probe::LatencyLog* latency = nullptr) : latency_(latency) {}
+
     std::unique_ptr<SpeechAutomationObject> CreateObject(std::string_view className) override;
+
+  private:
+    probe::LatencyLog* latency_;
 };
 
 }  // namespace marivox::speechd

@@ -10,7 +10,7 @@
 #include <mutex>
 #include <vector>
 
-#include "platform/qt/audio/AudioOutput.h"
+#include "platform/audio/AudioOutput.h"
 
 namespace marivox::test {
 

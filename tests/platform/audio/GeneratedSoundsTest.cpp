@@ -11,15 +11,23 @@
 #include <string>
 
 #include "WavImages.h"
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
+#include "speech/SoundFiles.h"
 
 namespace marivox {
 namespace {
 
 namespace fs = std::filesystem;
 
-const std::vector<std::string> kSounds{"begin",   "sonar",   "shoot",  "hit", "sink",
-                                       "youwin1", "youwin2", "laugh1", "end"};
+// Each sound the game asks for, by the name before ".wav".
+const std::vector<std::string> kSounds = [] {
+    std::vector<std::string> names;
+    for (const std::string_view sound : sound::kAll) {
+        const std::string_view file = sound::fileName(sound);
+        names.emplace_back(file.substr(0, file.size() - 4));
+    }
+    return names;
+}();
 
 std::vector<std::int16_t> samplesOf(const std::string& name) {
     return audio::readWavFile(fs::path(MARIVOX_PROGRAM_DIR) / (name + ".wav")).samples;

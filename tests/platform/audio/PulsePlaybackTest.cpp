@@ -12,8 +12,8 @@
 #include "fake/FakeDesktop.h"
 #include "fake/FakePlatform.h"
 #include "fake/FakeServices.h"
-#include "platform/qt/audio/PulseOutput.h"
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
+#include "platform/pulse/PulseOutput.h"
 #include "speech/WavSounds.h"
 #include "support/ErrorReports.h"
 #include "support/Guard.h"
@@ -74,7 +74,7 @@ struct Game {
 
 TEST(PulsePlayback, ShotHitAndSinkArriveWholeInOrderBackToBack) {
     test::PrivatePulse pulse;
-    auto player = audio::makePulseWavPlayer();
+    auto player = pulse::makePulseWavPlayer();
     Game game(*player);
     for (const char* name : {"\\shoot.wav", "\\hit.wav", "\\sink.wav"}) {
         game.sounds.PlaySound(name);
@@ -102,7 +102,7 @@ TEST(PulsePlayback, ASoundTooShortToStartTheStreamIsStillHeard) {
     const auto path = fs::temp_directory_path() / ("marivox-blip-" + std::to_string(::getpid()));
     const Samples blip = test::pattern(1, 220);  // 5 ms
     test::writeBytes(path, test::monoWav(blip));
-    auto player = audio::makePulseWavPlayer();
+    auto player = pulse::makePulseWavPlayer();
     player->open(path.string());
     player->play(0, -1, true);
     EXPECT_EQ(player->status(), 0);
@@ -114,7 +114,7 @@ TEST(PulsePlayback, ASoundTooShortToStartTheStreamIsStillHeard) {
 
 TEST(PulsePlayback, AServerDyingMidSoundLosesOnlyThatSound) {
     test::PrivatePulse pulse;
-    auto player = audio::makePulseWavPlayer();
+    auto player = pulse::makePulseWavPlayer();
     Game game(*player);
     const Samples sonar = generated("sonar.wav"), hit = generated("hit.wav");
     game.sounds.PlaySound("\\sonar.wav");
@@ -138,7 +138,7 @@ TEST(PulsePlayback, AServerDyingMidSoundLosesOnlyThatSound) {
 TEST(PulsePlayback, WithoutAServerTheGameGoesOnSilently) {
     ::setenv("PULSE_SERVER", "unix:/nonexistent/marivox/pulse/native", 1);
     ::setenv("PULSE_CLIENTCONFIG", "/dev/null", 1);
-    auto player = audio::makePulseWavPlayer();
+    auto player = pulse::makePulseWavPlayer();
     Game game(*player);
     for (const char* name : {"\\begin.wav", "\\sonar.wav", "\\shoot.wav", "\\hit.wav", "\\sink.wav",
                              "\\youwin1.wav", "\\youwin2.wav", "\\laugh1.wav"}) {

@@ -8,7 +8,7 @@
 
 #include "FakeAudioDevice.h"
 #include "WavImages.h"
-#include "platform/qt/audio/StreamWavPlayer.h"
+#include "platform/audio/StreamWavPlayer.h"
 #include "support/Failure.h"
 
 namespace marivox {

@@ -5,7 +5,7 @@
 #include <random>
 
 #include "WavImages.h"
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
 #include "support/Failure.h"
 
 namespace marivox {

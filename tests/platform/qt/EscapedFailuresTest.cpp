@@ -9,13 +9,13 @@
 #include <vector>
 
 #include "platform/KeyCodes.h"
+#include "platform/audio/StreamWavPlayer.h"
 #include "platform/qt/Desktop.h"
 #include "platform/qt/Dialogs.h"
 #include "platform/qt/GameWindowQt.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtTimers.h"
-#include "platform/qt/audio/StreamWavPlayer.h"
 
 namespace marivox {
 namespace {
@@ -54,12 +54,15 @@ struct FailingReaderForm : ReaderDialogEvents {
 class EscapedFailures : public ::testing::Test {
   protected:
     void SetUp() override {
-        desktop()->setEscapedFailureHandler([this](std::string_view where, const std::exception& e) {
-            heard.push_back(std::string(e.what()) + " in " + std::string(where));
-        });
+        desktop()->setEscapedFailureHandler(
+            [this](std::string_view where, const std::exception& e) {
+                heard.push_back(std::string(e.what()) + " in " + std::string(where));
+            });
     }
     void TearDown() override { desktop()->setEscapedFailureHandler({}); }
-    static qt::Desktop* desktop() { return dynamic_cast<qt::Desktop*>(QCoreApplication::instance()); }
+    static qt::Desktop* desktop() {
+        return dynamic_cast<qt::Desktop*>(QCoreApplication::instance());
+    }
     bool waitFor(std::size_t count) {
         return QTest::qWaitFor([&] { return heard.size() >= count; }, 5000);
     }
@@ -82,7 +85,8 @@ TEST_F(EscapedFailures, AreToldAndTheEventLoopGoesOn) {
     QTest::keyClick(&window.board(), Qt::Key_N, Qt::ControlModifier);
 
     qt::QtTimerFactory timers;
-    auto timer = timers.createTimer("tmrTimer1", std::chrono::milliseconds(1), [] { fault("timer"); });
+    auto timer =
+        timers.createTimer("tmrTimer1", std::chrono::milliseconds(1), [] { fault("timer"); });
     timer->switchOn();
     ASSERT_TRUE(waitFor(3));
 
@@ -108,9 +112,10 @@ TEST_F(EscapedFailures, AreToldAndTheEventLoopGoesOn) {
         [](const std::exception& e) { qt::Desktop::escapedOnAnyThread("PlaySound", e); });
     ASSERT_TRUE(waitFor(6));
 
-    EXPECT_EQ(heard, (std::vector<std::string>{"key in flex", "menu in mnuGameNew",
-                                               "timer in tmrTimer1", "inside a box in tmrHalDelay",
-                                               "dialog in frmReader", "sound output in PlaySound"}));
+    EXPECT_EQ(heard,
+              (std::vector<std::string>{"key in flex", "menu in mnuGameNew", "timer in tmrTimer1",
+                                        "inside a box in tmrHalDelay", "dialog in frmReader",
+                                        "sound output in PlaySound"}));
 }
 
 }  // namespace

@@ -12,12 +12,13 @@ namespace marivox::qt {
 // The board: a table whose heading row and column are real header views, so the cursor
 // can only stand on playing cells and a screen reader hears row and column headers. Each
 // playing cell's accessible text says what a sighted player sees ("C 4, miss").
-class BoardGrid : public QTableWidget, public GridControl {
+class GridWidget : public QTableWidget, public GridControl {
     Q_OBJECT
   public:
-    explicit BoardGrid(QWidget* parent = nullptr);
+    explicit GridWidget(QWidget* parent = nullptr);
 
     void setListener(GridEvents* events) override { events_ = events; }
+    void setCellDescriber(CellDescriber describer) override;
 
     int rows() const override { return rows_; }
     void setRows(int rows) override;
@@ -44,9 +45,6 @@ class BoardGrid : public QTableWidget, public GridControl {
     void setCellBackColor(Rgb colour) override;
     void setCellForeColor(Rgb colour) override;
 
-    // What a sighted player reads in a playing cell, for assistive technology.
-    static QString accessibleCellText(int row, int col, const QString& mark);
-
     // Typing a letter must not jump the cursor to a cell showing that letter.
     void keyboardSearch(const QString&) override {}
 
@@ -60,8 +58,10 @@ class BoardGrid : public QTableWidget, public GridControl {
     void checkCell(int row, int col) const;
     QTableWidgetItem* itemAt(int row, int col) const;
     void placeCursor(int row, int col);
+    void describe(int row, int col, QTableWidgetItem& cell) const;
 
     GridEvents* events_ = nullptr;
+    CellDescriber describer_;
     int rows_ = 2;
     int cols_ = 2;
     int fixedRows_ = 1;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
 
 #include <algorithm>
 #include <array>

@@ -10,6 +10,8 @@
 
 namespace marivox {
 
+// The clock and sleeping of the C++ standard library, the same on every platform.
+
 // The system clock, read at the finest grain it offers, to stir the random generator.
 class RealClock : public Clock {
   public:

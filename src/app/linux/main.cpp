@@ -3,7 +3,8 @@
 // Marivox: builds the desktop, the speech service and the sound device, and starts the game.
 #include <chrono>
 
-#include "app/RealClock.h"
+#include "platform/probe/LatencyLog.h"
+#include "platform/pulse/PulseOutput.h"
 #include "platform/qt/Desktop.h"
 #include "platform/qt/Dialogs.h"
 #include "platform/qt/GameWindowQt.h"
@@ -11,9 +12,9 @@
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/QtTimers.h"
-#include "platform/qt/audio/PulseOutput.h"
 #include "platform/qt/help/QtShell.h"
 #include "platform/speechd/SpeechdReaders.h"
+#include "platform/system/SystemClock.h"
 #include "screen/System.h"
 
 int main(int argc, char** argv) {
@@ -21,16 +22,18 @@ int main(int argc, char** argv) {
     qt::Desktop desktop(argc, argv);
     QApplication::setApplicationName("Marivox");
 
+    const auto latency = probe::LatencyLog::fromEnvironment();
     qt::QtApplication application;
     qt::QtShell shell(application.programFolder());
-    qt::GameWindowQt window(application);
+    qt::GameWindowQt window(application, latency.get());
     qt::QtTimerFactory timers;
     qt::QtMessageBoxes boxes;
     qt::QtSettingsStore settings;
-    const auto player = audio::makePulseWavPlayer(
-        [](const std::exception& failure) { qt::Desktop::escapedOnAnyThread("PlaySound", failure); });
-    speechd::SpeechdJawsApi jaws;
-    speechd::SpeechdAutomationObjects automation;
+    const auto player = pulse::makePulseWavPlayer([](const std::exception& failure) {
+        qt::Desktop::escapedOnAnyThread("PlaySound", failure);
+    });
+    speechd::SpeechdJawsApi jaws(latency.get());
+    speechd::SpeechdAutomationObjects automation(latency.get());
     qt::ReaderDialogQt readerDialog;
     qt::AboutBoxQt aboutBox([&window] { return &window; });
     RealClock clock;
@@ -39,9 +42,10 @@ int main(int argc, char** argv) {
     System system({window, timers, boxes, application, settings, shell, *player, jaws, automation,
                    readerDialog, aboutBox, clock, sleeper},
                   clock.ticks());
-    desktop.setEscapedFailureHandler([&system](std::string_view where, const std::exception& failure) {
-        system.guard.reportEscaped(where, failure);
-    });
+    desktop.setEscapedFailureHandler(
+        [&system](std::string_view where, const std::exception& failure) {
+            system.guard.reportEscaped(where, failure);
+        });
     system.Main();
     const int result = application.isEnding() ? 0 : QApplication::exec();
     // The closing sound is heard whole before the program goes, even behind a full queue.

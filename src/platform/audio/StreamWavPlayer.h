@@ -9,8 +9,8 @@
 #include <thread>
 
 #include "platform/WavPlayer.h"
-#include "platform/qt/audio/AudioOutput.h"
-#include "platform/qt/audio/SoundCache.h"
+#include "platform/audio/AudioOutput.h"
+#include "platform/audio/SoundCache.h"
 
 namespace marivox::audio {
 

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/qt/audio/StreamWavPlayer.h"
+#include "platform/audio/StreamWavPlayer.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -9,7 +9,7 @@
 #include <optional>
 #include <string>
 
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
 #include "support/Failure.h"
 
 namespace marivox::audio {
@@ -166,8 +166,8 @@ void runWorker(const std::shared_ptr<StreamWavPlayer::Shared>& shared) {
             if (starting) {
                 // Connecting at once spares the first sound the connection's delay.
                 w.stream = connect(s, lock);
-                w.retryAt = Clock::now() + (w.stream ? std::chrono::milliseconds(0)
-                                                     : s.limits.retryAfter);
+                w.retryAt =
+                    Clock::now() + (w.stream ? std::chrono::milliseconds(0) : s.limits.retryAfter);
             }
             playUntilStopped(s, lock, w);
             break;

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/qt/audio/SoundCache.h"
+#include "platform/audio/SoundCache.h"
 
 #include <algorithm>
 
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
 #include "support/Failure.h"
 
 namespace marivox::audio {

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/qt/audio/PulseOutput.h"
+#include "platform/pulse/PulseOutput.h"
 
 #include <pulse/error.h>
 #include <pulse/simple.h>
@@ -9,10 +9,12 @@
 #include <iostream>
 #include <vector>
 
-#include "platform/qt/audio/WavFile.h"
+#include "platform/audio/WavFile.h"
 
-namespace marivox::audio {
+namespace marivox::pulse {
 namespace {
+
+using namespace audio;
 
 constexpr std::uint32_t kBytesPerSample = sizeof(std::int16_t);
 // How far ahead the worker writes: enough to ride out a busy moment of the machine, and the
@@ -70,7 +72,7 @@ class PulseStream final : public AudioStream {
 
 }  // namespace
 
-AudioConnector pulseConnector() {
+audio::AudioConnector pulseConnector() {
     return []() -> std::unique_ptr<AudioStream> {
         const pa_sample_spec format{PA_SAMPLE_S16LE, kOutputRate, 1};
         pa_buffer_attr buffer{};
@@ -90,8 +92,10 @@ AudioConnector pulseConnector() {
     };
 }
 
-std::unique_ptr<StreamWavPlayer> makePulseWavPlayer(StreamWavPlayer::FailureHandler onFailure) {
-    return std::make_unique<StreamWavPlayer>(pulseConnector(), PlayerLimits{}, std::move(onFailure));
+std::unique_ptr<audio::StreamWavPlayer> makePulseWavPlayer(
+    audio::StreamWavPlayer::FailureHandler onFailure) {
+    return std::make_unique<audio::StreamWavPlayer>(pulseConnector(), audio::PlayerLimits{},
+                                                    std::move(onFailure));
 }
 
-}  // namespace marivox::audio
+}  // namespace marivox::pulse

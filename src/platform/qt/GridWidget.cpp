@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/qt/BoardGrid.h"
+#include "platform/qt/GridWidget.h"
 
 #include <QHeaderView>
 #include <algorithm>
 
-#include "model/Ships.h"
 #include "platform/qt/Twips.h"
 #include "support/Failure.h"
 
@@ -27,7 +26,7 @@ QString fromUtf8(std::string_view text) {
 
 }  // namespace
 
-BoardGrid::BoardGrid(QWidget* parent) : QTableWidget(parent) {
+GridWidget::GridWidget(QWidget* parent) : QTableWidget(parent) {
     setObjectName("flex");
     setAccessibleName("Board");
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -53,7 +52,7 @@ BoardGrid::BoardGrid(QWidget* parent) : QTableWidget(parent) {
     reshape();
 }
 
-void BoardGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+void GridWidget::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     // The game speaks the cell before the view repaints and tells the accessibility bus,
     // so the player hears it that much sooner.
     if (!quiet_ && events_ != nullptr && current.isValid() && current != previous) {
@@ -62,18 +61,23 @@ void BoardGrid::currentChanged(const QModelIndex& current, const QModelIndex& pr
     QTableWidget::currentChanged(current, previous);
 }
 
-QString BoardGrid::accessibleCellText(int row, int col, const QString& mark) {
-    QString text = QString(QChar('A' + row - 1)) + " " + QString::number(col);
-    const std::string letter = mark.trimmed().toStdString();
-    if (letter == "M") {
-        text += ", miss";
-    } else if (const auto ship = shipWithLetter(letter)) {
-        text += ", " + fromUtf8(shipInfo(*ship).cursorText).trimmed();
+void GridWidget::setCellDescriber(CellDescriber describer) {
+    describer_ = std::move(describer);
+    for (int r = 0; r < rowCount(); ++r) {
+        for (int c = 0; c < columnCount(); ++c) {
+            describe(r + fixedRows_, c + fixedCols_, *item(r, c));
+        }
     }
-    return text;
 }
 
-void BoardGrid::reshape() {
+void GridWidget::describe(int row, int col, QTableWidgetItem& cell) const {
+    if (describer_) {
+        const std::string mark = cell.text().toStdString();
+        cell.setData(Qt::AccessibleTextRole, QString::fromStdString(describer_(row, col, mark)));
+    }
+}
+
+void GridWidget::reshape() {
     quiet_ = true;
     const int playingRows = rows_ - fixedRows_;
     const int playingCols = cols_ - fixedCols_;
@@ -90,8 +94,7 @@ void BoardGrid::reshape() {
                 auto* cell = new QTableWidgetItem(QString());
                 cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
                 cell->setTextAlignment(Qt::AlignCenter);
-                cell->setData(Qt::AccessibleTextRole,
-                              accessibleCellText(r + fixedRows_, c + fixedCols_, QString()));
+                describe(r + fixedRows_, c + fixedCols_, *cell);
                 setItem(r, c, cell);
             }
         }
@@ -109,7 +112,7 @@ void BoardGrid::reshape() {
     fitLines();
 }
 
-void BoardGrid::fitLines() {
+void GridWidget::fitLines() {
     QHeaderView* top = horizontalHeader();
     QHeaderView* left = verticalHeader();
     if (headingRowPixels_ >= 0) {
@@ -148,12 +151,12 @@ void BoardGrid::fitLines() {
     }
 }
 
-void BoardGrid::resizeEvent(QResizeEvent* event) {
+void GridWidget::resizeEvent(QResizeEvent* event) {
     QTableWidget::resizeEvent(event);
     fitLines();
 }
 
-void BoardGrid::setRows(int rows) {
+void GridWidget::setRows(int rows) {
     if (rows <= fixedRows_) {
         outOfRange("row count");
     }
@@ -161,7 +164,7 @@ void BoardGrid::setRows(int rows) {
     reshape();
 }
 
-void BoardGrid::setCols(int cols) {
+void GridWidget::setCols(int cols) {
     if (cols <= fixedCols_) {
         outOfRange("column count");
     }
@@ -169,7 +172,7 @@ void BoardGrid::setCols(int cols) {
     reshape();
 }
 
-void BoardGrid::setFixedRows(int rows) {
+void GridWidget::setFixedRows(int rows) {
     if (rows < 0 || rows > 1 || rows >= rows_) {
         outOfRange("fixed row count");
     }
@@ -177,7 +180,7 @@ void BoardGrid::setFixedRows(int rows) {
     reshape();
 }
 
-void BoardGrid::setFixedCols(int cols) {
+void GridWidget::setFixedCols(int cols) {
     if (cols < 0 || cols > 1 || cols >= cols_) {
         outOfRange("fixed column count");
     }
@@ -186,7 +189,7 @@ void BoardGrid::setFixedCols(int cols) {
 }
 
 // Only the heading lines keep a size of their own; the playing lines share the rest.
-void BoardGrid::setRowHeight(int row, int size) {
+void GridWidget::setRowHeight(int row, int size) {
     if (row == 0 || row == kAllLines) {
         headingRowPixels_ = size == kDefaultSize ? -1 : twips(size);
     } else if (row < 0 || row >= rows_) {
@@ -195,7 +198,7 @@ void BoardGrid::setRowHeight(int row, int size) {
     fitLines();
 }
 
-void BoardGrid::setColWidth(int col, int size) {
+void GridWidget::setColWidth(int col, int size) {
     if (col == 0 || col == kAllLines) {
         headingColPixels_ = size == kDefaultSize ? -1 : twips(size);
     } else if (col < 0 || col >= cols_) {
@@ -204,13 +207,13 @@ void BoardGrid::setColWidth(int col, int size) {
     fitLines();
 }
 
-void BoardGrid::checkCell(int row, int col) const {
+void GridWidget::checkCell(int row, int col) const {
     if (row < 0 || row >= rows_ || col < 0 || col >= cols_) {
         outOfRange("cell");
     }
 }
 
-QTableWidgetItem* BoardGrid::itemAt(int row, int col) const {
+QTableWidgetItem* GridWidget::itemAt(int row, int col) const {
     checkCell(row, col);
     if (row < fixedRows_ && col < fixedCols_) {
         return nullptr;
@@ -224,12 +227,12 @@ QTableWidgetItem* BoardGrid::itemAt(int row, int col) const {
     return item(row - fixedRows_, col - fixedCols_);
 }
 
-std::string BoardGrid::textMatrix(int row, int col) const {
+std::string GridWidget::textMatrix(int row, int col) const {
     const QTableWidgetItem* cell = itemAt(row, col);
     return (cell != nullptr ? cell->text() : corner_).toStdString();
 }
 
-void BoardGrid::setTextMatrix(int row, int col, std::string_view text) {
+void GridWidget::setTextMatrix(int row, int col, std::string_view text) {
     QTableWidgetItem* cell = itemAt(row, col);
     const QString value = fromUtf8(text);
     if (cell == nullptr) {
@@ -238,11 +241,11 @@ void BoardGrid::setTextMatrix(int row, int col, std::string_view text) {
     }
     cell->setText(value);
     if (row >= fixedRows_ && col >= fixedCols_) {
-        cell->setData(Qt::AccessibleTextRole, accessibleCellText(row, col, value));
+        describe(row, col, *cell);
     }
 }
 
-void BoardGrid::placeCursor(int row, int col) {
+void GridWidget::placeCursor(int row, int col) {
     if (row < fixedRows_ || col < fixedCols_) {
         outOfRange("cursor");
     }
@@ -250,15 +253,15 @@ void BoardGrid::placeCursor(int row, int col) {
     setCurrentCell(row - fixedRows_, col - fixedCols_);
 }
 
-void BoardGrid::setRow(int row) {
+void GridWidget::setRow(int row) {
     placeCursor(row, col());
 }
 
-void BoardGrid::setCol(int col) {
+void GridWidget::setCol(int col) {
     placeCursor(row(), col);
 }
 
-void BoardGrid::setBackColor(Rgb colour) {
+void GridWidget::setBackColor(Rgb colour) {
     back_ = colour;
     QPalette p = palette();
     p.setColor(QPalette::Base, toQColor(colour));
@@ -266,20 +269,20 @@ void BoardGrid::setBackColor(Rgb colour) {
     setPalette(p);
 }
 
-void BoardGrid::setForeColor(Rgb colour) {
+void GridWidget::setForeColor(Rgb colour) {
     fore_ = colour;
     QPalette p = palette();
     p.setColor(QPalette::Text, toQColor(colour));
     setPalette(p);
 }
 
-void BoardGrid::setCellBackColor(Rgb colour) {
+void GridWidget::setCellBackColor(Rgb colour) {
     if (QTableWidgetItem* cell = itemAt(row(), col())) {
         cell->setBackground(toQColor(colour));
     }
 }
 
-void BoardGrid::setCellForeColor(Rgb colour) {
+void GridWidget::setCellForeColor(Rgb colour) {
     if (QTableWidgetItem* cell = itemAt(row(), col())) {
         cell->setForeground(toQColor(colour));
     }

@@ -4,16 +4,17 @@
 
 #include <memory>
 
-#include "platform/qt/audio/AudioOutput.h"
-#include "platform/qt/audio/StreamWavPlayer.h"
+#include "platform/audio/AudioOutput.h"
+#include "platform/audio/StreamWavPlayer.h"
 
-namespace marivox::audio {
+namespace marivox::pulse {
 
 // Streams to PulseAudio, the sound server of Debian's desktops (or the one PULSE_SERVER
 // names), through its simple blocking API.
-AudioConnector pulseConnector();
+audio::AudioConnector pulseConnector();
 
 // The game's WAV player on the desktop's sound server.
-std::unique_ptr<StreamWavPlayer> makePulseWavPlayer(StreamWavPlayer::FailureHandler onFailure = {});
+std::unique_ptr<audio::StreamWavPlayer> makePulseWavPlayer(
+    audio::StreamWavPlayer::FailureHandler onFailure = {});
 
-}  // namespace marivox::audio
+}  // namespace marivox::pulse
