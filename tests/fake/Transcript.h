@@ -2,42 +2,57 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
+#include <stdexcept>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "support/Failure.h"
 
 namespace marivox::fake {
 
-// Everything the fakes were asked to do, in order, one line per call. A test can arm a
-// failure at a line: the fake then throws instead of doing what that line records, which is
-// how failures get into the procedures that call the ports.
-class Transcript {
-  public:
-    // Records one call, or throws the armed failure if this is the line it waits for.
-    void record(std::string line);
-
-    // Fail the `occurrence`-th call (1-based) whose line starts with `prefix`.
-    void failAt(std::string prefix, int occurrence = 1, std::int32_t number = 1234,
-                std::string description = "Injected failure");
-
-    const std::vector<std::string>& lines() const { return lines_; }
-    std::vector<std::string> linesStartingWith(std::string_view prefix) const;
-    std::string text() const;  // all lines, each ending in a newline
-    void clear() { lines_.clear(); }
-    bool contains(std::string_view line) const;
-
-  private:
+// Everything the fakes were asked to do, in order, one line per call. A failure armed at a
+// line is thrown by the fake instead of doing what the line records: that is how failures
+// reach the procedures that call the ports.
+struct Transcript {
     struct Armed {
         std::string prefix;
         int remaining;
-        std::int32_t number;
-        std::string description;
+        std::int32_t number;  // 0: a plain standard exception, as a fault of an adapter's own
     };
-    std::vector<std::string> lines_;
-    std::vector<Armed> armed_;
+
+    // `kept` false: only checked for an armed failure, not written down (calls too many to
+    // read, such as each cell's colours).
+    void record(const std::string& line, bool kept = true) {
+        for (auto it = armed.begin(); it != armed.end(); ++it) {
+            if (line.starts_with(it->prefix) && --it->remaining == 0) {
+                const std::int32_t number = it->number;
+                armed.erase(it);
+                lines.push_back("FAILED " + line);
+                if (number == 0) {
+                    throw std::runtime_error("Injected fault");
+                }
+                throw Failure(number, "Injected failure");
+            }
+        }
+        if (kept) {
+            lines.push_back(line);
+        }
+    }
+    void failAt(std::string prefix, int occurrence = 1, std::int32_t number = 1234) {
+        armed.push_back({std::move(prefix), occurrence, number});
+    }
+
+    std::vector<std::string> lines;
+    std::vector<Armed> armed;  // failures not met yet
 };
+
+// Text as the transcript shows it: quoted, with CR and LF written as \r and \n.
+inline std::string quoted(std::string_view text) {
+    std::string out = "\"";
+    for (const char c : text) {
+        out += c == '\r' ? "\\r" : c == '\n' ? "\\n" : std::string(1, c);
+    }
+    return out + "\"";
+}
 
 }  // namespace marivox::fake

@@ -2,92 +2,71 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <array>
+#include <cmath>
 #include <set>
 
-#include "fake/RulesRig.h"
+#include "fake/Rig.h"
+#include "model/Placement.h"
 
+// What no single game can show: how the random numbers and the ships' places spread.
 namespace marivox {
 namespace {
 
-TEST(GetRandom, StaysWithinItsBoundsAndReachesEveryValue) {
-    fake::RulesRig rig(17);
-    std::array<int, 11> seen{};
-    for (int i = 0; i < 2000; ++i) {
-        const int value = rig.random.GetRandom(1, 9);
-        ASSERT_GE(value, 1);
-        ASSERT_LE(value, 9);
-        ++seen[static_cast<std::size_t>(value)];
+TEST(GetRandom, CoversItsRangeEvenlyAndFreshlyWhileTheClockStands) {
+    fake::Rig rig(17);
+    rig.clock.step = 0;  // every draw within one tick of the clock
+    std::map<int, int> seen;
+    for (int i = 0; i < 4000; ++i) {
+        ++seen[rig.system.random.GetRandom(1, 100)];
     }
-    for (int value = 1; value <= 9; ++value) {
-        EXPECT_GT(seen[static_cast<std::size_t>(value)], 150) << value;
-    }
-    EXPECT_EQ(rig.random.GetRandom(5, 5), 5);
-    EXPECT_TRUE(rig.transcript.lines().empty());
-}
-
-TEST(GetRandom, DrawsAboveFiftyAboutHalfTheTime) {
-    fake::RulesRig rig(23);
-    constexpr int kDraws = 4000;
+    EXPECT_EQ(seen.size(), 100u);
+    EXPECT_EQ(seen.begin()->first, 1);
+    EXPECT_EQ(seen.rbegin()->first, 100);
     int above = 0;
-    for (int i = 0; i < kDraws; ++i) {
-        above += rig.random.GetRandom(1, 100) > 50 ? 1 : 0;
+    for (const auto& [value, count] : seen) {
+        above += value > 50 ? count : 0;
     }
-    // Five standard deviations of a fair coin over 4000 throws is about 158.
-    EXPECT_NEAR(above, kDraws / 2, 158);
+    EXPECT_NEAR(above, 2000, 160);  // five standard deviations of a fair coin
+    EXPECT_EQ(rig.system.random.GetRandom(5, 5), 5);
 }
 
-TEST(GetRandom, GivesFreshValuesWhenTheClockDoesNotMove) {
-    fake::FakeClock stoppedClock(99, 0);
-    RandomGenerator generator(stoppedClock, 5);
-    fake::RulesRig rig;
-    RandomNumbers random(generator, rig.guard);
-    std::set<int> values;
-    for (int i = 0; i < 20; ++i) {
-        values.insert(random.GetRandom(1, 100));
+// Every start and direction that fits on free water is equally likely: a carrier on an
+// empty ocean, a destroyer among other ships (chi-square, 0.999 quantile).
+TEST(Placement, LandsOnEveryFreePositionWithEqualChance) {
+    fake::Rig rig(11);
+    Ocean empty, among;
+    for (int cell = 0; cell < 81; ++cell) {
+        empty.set(cell / 9 + 1, cell % 9 + 1, CellCode::OpenWater);
+        among.set(cell / 9 + 1, cell % 9 + 1, cell % 13 == 4 ? 12 : CellCode::OpenWater);
     }
-    EXPECT_GT(values.size(), 10u);
-}
-
-TEST(RandomGenerator, ReseedingFoldsIntoTheStateInsteadOfRestarting) {
-    fake::FakeClock clock;
-    RandomGenerator generator(clock, 42);
-    generator.reseed(7);
-    const double first = generator.draw();
-    generator.reseed(7);
-    const double second = generator.draw();
-    EXPECT_NE(first, second);
-    for (int i = 0; i < 1000; ++i) {
-        const double u = generator.draw();
-        ASSERT_GE(u, 0.0);
-        ASSERT_LT(u, 1.0);
+    for (const auto& [start, ship] : {std::pair{empty, kShips[0]}, {among, kShips[2]}}) {
+        std::map<std::pair<int, bool>, int> landed;  // first cell and direction
+        for (int trial = 0; trial < 10000; ++trial) {
+            Ocean ocean = start;
+            placeShip(ocean, ship, OverlapTest::AgainstOcean, rig.system.random);
+            for (int cell = 0; cell < 81; ++cell) {
+                if (ocean(cell / 9 + 1, cell % 9 + 1) == ship.intactCode) {
+                    ++landed[{cell, ocean(cell / 9 + 1, cell % 9 + 2) == ship.intactCode}];
+                    break;
+                }
+            }
+        }
+        int free = 0;
+        for (int cell = 0; cell < 162; ++cell) {
+            const int row = cell % 81 / 9 + 1, col = cell % 9 + 1, across = cell / 81;
+            bool fits = (across ? col : row) + ship.length - 1 <= 9;
+            for (int i = 0; fits && i < ship.length; ++i) {
+                fits = start(row + (across ? 0 : i), col + (across ? i : 0)) == 1;
+            }
+            free += fits;
+        }
+        EXPECT_EQ(static_cast<int>(landed.size()), free);
+        double chiSquare = 0, expected = 10000.0 / free, k = free - 1;
+        for (const auto& [position, count] : landed) {
+            chiSquare += (count - expected) * (count - expected) / expected;
+        }
+        EXPECT_LT(chiSquare, k * std::pow(1 - 2 / (9 * k) + 3.0902 * std::sqrt(2 / (9 * k)), 3));
     }
-}
-
-TEST(RandomGenerator, SameSeedAndClockGiveTheSameSequence) {
-    fake::FakeClock clockA(3, 11);
-    fake::FakeClock clockB(3, 11);
-    fake::FakeClock clockC(4, 11);
-    RandomGenerator a(clockA, 77);
-    RandomGenerator b(clockB, 77);
-    RandomGenerator c(clockC, 77);
-    int differences = 0;
-    for (int i = 0; i < 50; ++i) {
-        a.reseedFromClock();
-        b.reseedFromClock();
-        c.reseedFromClock();
-        const double fromA = a.draw();
-        EXPECT_EQ(fromA, b.draw());
-        differences += fromA != c.draw() ? 1 : 0;
-    }
-    EXPECT_EQ(differences, 50);
-}
-
-TEST(GetRandom, SixteenBitOverflowIsReportedNotWrapped) {
-    fake::RulesRig rig;
-    EXPECT_EQ(rig.random.GetRandom(-32768, 32767), 0);
-    EXPECT_EQ(rig.transcript.lines().front(),
-              "box 64 \"Marivox\" \"Error: 1001 Overflow of a 16-bit value in GetRandom()\"");
 }
 
 }  // namespace

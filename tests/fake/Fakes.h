@@ -1,0 +1,403 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
+
+#include "fake/Transcript.h"
+#include "platform/Application.h"
+#include "platform/Clock.h"
+#include "platform/Forms.h"
+#include "platform/GridControl.h"
+#include "platform/KeyCodes.h"
+#include "platform/MessageBoxes.h"
+#include "platform/OneShotTimer.h"
+#include "platform/ScreenReaders.h"
+#include "platform/SettingsStore.h"
+#include "platform/Shell.h"
+#include "platform/Sleeper.h"
+#include "platform/WavPlayer.h"
+
+// Fakes of every port, each writing what it is asked into one shared transcript.
+namespace marivox::fake {
+
+struct Recorder {
+    explicit Recorder(Transcript& transcript) : t(transcript) {}
+    Transcript& t;
+};
+
+// Virtual time: timers fire only as a test lets time pass, in the order they fall due (ties
+// in the order they were switched on), and no more once the event loop has `ended`.
+// Lines: `timer <name> on|off|tick`.
+struct FakeTimers : TimerFactory, Recorder {
+    using Recorder::Recorder;
+    struct Timer : OneShotTimer {
+        Timer(FakeTimers& o, std::string_view n, std::int64_t i, std::function<void()> f)
+            : owner(o), name(n), interval(i), onTick(std::move(f)) {
+            owner.timers.push_back(this);
+        }
+        ~Timer() override { std::erase(owner.timers, this); }
+        void switchOn() override {
+            owner.t.record("timer " + name + " on");
+            if (!on) {  // a timer already counting keeps its time
+                on = waiting = true;
+                due = std::pair(owner.now + interval, ++owner.switches);
+            }
+        }
+        void switchOff() override {
+            owner.t.record("timer " + name + " off");
+            on = false;
+        }
+        bool isOn() const override { return on; }
+        FakeTimers& owner;
+        std::string name;
+        std::int64_t interval;
+        std::function<void()> onTick;
+        bool on = false, waiting = false;  // one tick per switching on
+        std::pair<std::int64_t, std::int64_t> due;
+    };
+
+    std::unique_ptr<OneShotTimer> createTimer(std::string_view name,
+                                              std::chrono::milliseconds interval,
+                                              std::function<void()> onTick) override {
+        return std::make_unique<Timer>(*this, name, interval.count(), onTick);
+    }
+    // Lets `ms` pass; with `deliver` false the event loop is held meanwhile, as by a call
+    // that blocks, and what falls due fires at the next advance.
+    void advance(std::int64_t ms, bool deliver = true) {
+        const std::int64_t until = now + ms;
+        for (Timer* next = nextDue(); deliver && !ended && next && next->due.first <= until;
+             next = nextDue()) {
+            now = std::max(now, next->due.first);
+            next->waiting = false;
+            t.record("timer " + next->name + " tick");
+            next->onTick();
+        }
+        now = until;
+    }
+    Timer* nextDue() const {
+        Timer* next = nullptr;
+        for (Timer* timer : timers) {
+            if (timer->on && timer->waiting && (!next || timer->due < next->due)) {
+                next = timer;
+            }
+        }
+        return next;
+    }
+
+    std::vector<Timer*> timers;
+    std::int64_t now = 0, switches = 0;
+    bool ended = false;
+};
+
+// The board control: moving the cursor, by code or by the player, raises the cursor-moved
+// event when the cell changes; a click makes the clicked cell current first; the cursor
+// never stands on a heading. Lines: `grid <row>,<col> "<text>"` for every cell text, and
+// `grid <what> <value>` for the grid's shape and colours.
+struct FakeGrid : GridControl, Recorder {
+    using Recorder::Recorder;
+    void setListener(GridEvents* e) override { events = e; }
+    void setCellDescriber(CellDescriber d) override { describer = std::move(d); }
+    int rows() const override { return rows_; }
+    void setRows(int n) override { rows_ = shape("rows", n); }
+    int cols() const override { return cols_; }
+    void setCols(int n) override { cols_ = shape("columns", n); }
+    void setFixedRows(int n) override { fixedRows_ = shape("fixed rows", n); }
+    void setFixedCols(int n) override { fixedCols_ = shape("fixed columns", n); }
+    void setRowHeight(int row, int twips) override { shape("row " + str(row) + " height", twips); }
+    void setColWidth(int col, int twips) override { shape("column " + str(col) + " width", twips); }
+    int row() const override { return row_; }
+    void setRow(int row) override { playerMovesTo(row, col_); }
+    int col() const override { return col_; }
+    void setCol(int col) override { playerMovesTo(row_, col); }
+    std::string text() const override { return textMatrix(row_, col_); }
+    std::string textMatrix(int row, int col) const override {
+        check(row, col, 0);
+        return cells.contains({row, col}) ? cells.at({row, col}) : "";
+    }
+    void setTextMatrix(int row, int col, std::string_view text) override {
+        check(row, col, 0);
+        t.record("grid " + str(row) + "," + str(col) + " " + quoted(text));
+        cells[{row, col}] = text;
+    }
+    Rgb backColor() const override { return back_; }
+    void setBackColor(Rgb c) override { back_ = colour("back", c); }
+    Rgb foreColor() const override { return fore_; }
+    void setForeColor(Rgb c) override { fore_ = colour("fore", c); }
+    // A cell's colours, copies of the grid's, are too many to read: only checked.
+    void setCellBackColor(Rgb) override {
+        t.record("grid colours " + str(row_) + "," + str(col_), false);
+    }
+    void setCellForeColor(Rgb) override {}
+
+    // What a player does: one move of the cursor, or a click that moves it and fires.
+    void playerMovesTo(int row, int col) {
+        check(row, col, 1);
+        const bool moved = std::pair(row, col) != std::pair(row_, col_);
+        std::tie(row_, col_) = std::pair(row, col);
+        if (moved && events) {
+            events->onRowColChange();
+        }
+    }
+    void playerClicks(int row, int col) {
+        playerMovesTo(row, col);
+        events->onClick();
+    }
+
+    GridEvents* events = nullptr;
+    CellDescriber describer;
+    std::map<std::pair<int, int>, std::string> cells;
+
+  private:
+    static std::string str(int n) { return std::to_string(n); }
+    int shape(const std::string& what, int value) {
+        t.record("grid " + what + " " + str(value));
+        return value;
+    }
+    Rgb colour(const std::string& what, Rgb c) {
+        t.record("grid " + what + " " + str(c.red) + "," + str(c.green) + "," + str(c.blue));
+        return c;
+    }
+    // `cursor` 1: the cell must also lie past the headings.
+    void check(int row, int col, int cursor) const {
+        if (row < cursor * fixedRows_ || row >= rows_ || col < cursor * fixedCols_ ||
+            col >= cols_) {
+            throw Failure(FailureNumber::IndexOutOfRange, "Grid cell out of range");
+        }
+    }
+    int rows_ = 2, cols_ = 2, fixedRows_ = 1, fixedCols_ = 1, row_ = 1, col_ = 1;
+    Rgb back_{}, fore_{};
+};
+
+// The game window; once it has closed no window is left, and the event loop ends.
+// Lines: `window load|show|unload|closed`, `unload other windows`.
+struct FakeWindow : GameWindow, Recorder {
+    FakeWindow(Transcript& t, FakeTimers& timers) : Recorder(t), board(t), timers(timers) {}
+    void load(GameScreenEvents& e) override {
+        t.record("window load");
+        events = &e;
+        e.Form_Load();
+    }
+    void show() override { t.record("window show"); }
+    void unload() override {
+        t.record("window unload");
+        std::int16_t cancel = 0;
+        events->Form_Unload(cancel);
+        if (cancel == 0) {
+            t.record("window closed");
+            closed = timers.ended = true;
+        }
+    }
+    void unloadOtherWindows() override { t.record("unload other windows"); }
+    GridControl& grid() override { return board; }
+    // A key as the player presses it: the window hears it first, then the board takes an
+    // arrow; F1 also opens the help, as the platform's help key.
+    void press(std::int16_t key) {
+        events->Form_KeyDown(key, 0);
+        const int down = key == KeyCode::Down ? 1 : key == KeyCode::Up ? -1 : 0;
+        const int right = key == KeyCode::Right ? 1 : key == KeyCode::Left ? -1 : 0;
+        if (down != 0 || right != 0) {
+            board.playerMovesTo(std::clamp(board.row() + down, 1, 9),
+                                std::clamp(board.col() + right, 1, 9));
+        }
+        if (key == KeyCode::F1) {
+            events->helpKey();
+        }
+    }
+    FakeGrid board;
+    FakeTimers& timers;
+    GameScreenEvents* events = nullptr;
+    bool closed = false;
+};
+
+// Answers as scripted, else a question by `answerer` or No, anything else with OK.
+// Lines: `box <style> "<title>" "<text>"`, then `answer <code>`.
+struct FakeBoxes : MessageBoxes, Recorder {
+    using Recorder::Recorder;
+    int show(std::string_view text, int style, std::string_view title) override {
+        t.record("box " + std::to_string(style) + " " + quoted(title) + " " + quoted(text));
+        int answer = (style & 0xF) == MsgBoxStyle::YesNo ? MsgBoxAnswer::No : MsgBoxAnswer::Ok;
+        if (!answers.empty()) {
+            answer = answers.front();
+            answers.pop_front();
+        } else if (answerer && answer == MsgBoxAnswer::No) {
+            answer = answerer(text);
+        }
+        t.record("answer " + std::to_string(answer));
+        return answer;
+    }
+    std::deque<int> answers;
+    std::function<int(std::string_view text)> answerer;
+};
+
+// The screen-reader dialog, worked by a scripted player: each step selects an item (or
+// none) and presses OK, or presses the close box. Lines: `reader dialog open|closed`,
+// `reader item "<text>"`, `reader list <index>`, `reader OK <index>`, `reader close box`.
+struct FakeReaderDialog : ReaderDialog, Recorder {
+    static constexpr int kCloseBox = -2;
+    using Recorder::Recorder;
+    void showModal(ReaderDialogEvents& e) override {
+        t.record("reader dialog open");
+        events = &e;
+        index = kNoSelection;
+        e.Form_Load();
+        for (open = true; open;) {
+            if (steps.empty()) {
+                throw std::logic_error("the reader dialog is open and the script says no more");
+            }
+            const int step = steps.front();
+            steps.pop_front();
+            t.record(step == kCloseBox ? "reader close box" : "reader OK " + std::to_string(step));
+            step == kCloseBox ? unload() : (index = step, e.btnOK_Click());
+        }
+    }
+    void unload() override {
+        std::int16_t cancel = 0;
+        events->Form_Unload(cancel);
+        if (cancel == 0) {
+            open = false;
+            t.record("reader dialog closed");
+        }
+    }
+    void addItem(std::string_view item) override { t.record("reader item " + quoted(item)); }
+    int listIndex() const override { return index; }
+    void setListIndex(int i) override {
+        t.record("reader list " + std::to_string(i));
+        index = i;
+    }
+    std::deque<int> steps;
+    ReaderDialogEvents* events = nullptr;
+    int index = kNoSelection;
+    bool open = false;
+};
+
+// The About box, its OK button pressed as soon as it shows. Lines: `about open|closed`,
+// `about title "<text>"`, `about version "<text>"`.
+struct FakeAboutBox : AboutBox, Recorder {
+    using Recorder::Recorder;
+    void showModal(AboutBoxEvents& e) override {
+        t.record("about open");
+        e.Form_Load();
+        e.cmdOK_Click();
+    }
+    void unload() override { t.record("about closed"); }
+    void setTitleLabel(std::string_view text) override { t.record("about title " + quoted(text)); }
+    void setVersionLabel(std::string_view text) override {
+        t.record("about version " + quoted(text));
+    }
+};
+
+// Ending the program ends the timers' event loop. Lines: `end program`.
+struct FakeApplication : Application, Recorder {
+    FakeApplication(Transcript& t, FakeTimers& timers) : Recorder(t), timers(timers) {}
+    std::string programFolder() const override { return "/opt/marivox"; }
+    std::string helpFile() const override { return help; }
+    void setHelpFile(std::string path) override { help = std::move(path); }
+    std::string title() const override { return name; }
+    void setTitle(std::string title) override { name = std::move(title); }
+    Version version() const override { return {1, 0, 0}; }
+    void endNow() override {
+        t.record("end program");
+        ended = timers.ended = true;
+    }
+    FakeTimers& timers;
+    std::string help, name;
+    bool ended = false;
+};
+
+// Lines: `setting get <application>/<section>/<key>`, `setting save <...> "<value>"`.
+struct FakeSettings : SettingsStore, Recorder {
+    using Recorder::Recorder;
+    std::string GetSetting(std::string_view app, std::string_view section, std::string_view key,
+                           std::string_view defaultValue) override {
+        const std::string name =
+            std::string(app) + "/" + std::string(section) + "/" + std::string(key);
+        t.record("setting get " + name);
+        return stored.contains(name) ? stored[name] : std::string(defaultValue);
+    }
+    void SaveSetting(std::string_view app, std::string_view section, std::string_view key,
+                     std::string_view value) override {
+        const std::string name =
+            std::string(app) + "/" + std::string(section) + "/" + std::string(key);
+        t.record("setting save " + name + " " + quoted(value));
+        stored[name] = value;
+    }
+    std::map<std::string, std::string> stored;
+};
+
+// Lines: `shell <owner> <operation|null> "<file>" <parameters|null> "<folder>" <show>`.
+struct FakeShell : Shell, Recorder {
+    using Recorder::Recorder;
+    void ShellExecute(std::intptr_t owner, const char* operation, std::string_view file,
+                      const char* parameters, std::string_view folder, int show) override {
+        t.record("shell " + std::to_string(owner) + " " + (operation ? operation : "null") + " " +
+                 quoted(file) + " " + (parameters ? parameters : "null") + " " + quoted(folder) +
+                 " " + std::to_string(show));
+    }
+};
+
+struct FakeSleeper : Sleeper {
+    void sleepFor(std::chrono::milliseconds duration) override { slept += duration; }
+    std::chrono::milliseconds slept{0};
+};
+
+// An output that refuses requests as busy until the game has slept `busyUntil` in all.
+// Lines: `sound <path>` as a sound is opened; a request that met a busy output ends with
+// `sound accepted|given up after <ms> ms busy`.
+struct FakeWavPlayer : WavPlayer, Recorder {
+    FakeWavPlayer(Transcript& t, FakeSleeper& sleeper) : Recorder(t), sleeper(sleeper) {}
+    void open(std::string_view path) override {
+        t.record("sound " + std::string(path));
+        opened = sleeper.slept;
+    }
+    void play(std::int32_t, std::int32_t, bool) override {}
+    std::int32_t status() override { return busy = sleeper.slept < busyUntil ? kDeviceBusy : 0; }
+    void closeSound() override {
+        if (const auto waited = (sleeper.slept - opened).count(); waited > 0) {
+            t.record(std::string(busy ? "sound given up" : "sound accepted") + " after " +
+                     std::to_string(waited) + " ms busy");
+        }
+    }
+    FakeSleeper& sleeper;
+    std::chrono::milliseconds busyUntil{0}, opened{0};
+    std::int32_t busy = 0;
+};
+
+// Lines: `speak "<text>"` (`speak! ` when asked to interrupt), `stop`.
+struct FakeJaws : JawsApi, Recorder {
+    using Recorder::Recorder;
+    void JFWSayString(std::string_view text, bool interrupt) override {
+        t.record((interrupt ? "speak! " : "speak ") + quoted(text));
+    }
+    void JFWStopSpeech() override { t.record("stop"); }
+};
+
+// Lines: `create <class>`, then the object's `we speak "<text>"`, `we silence`, `we released`.
+struct FakeAutomation : AutomationObjects, Recorder {
+    using Recorder::Recorder;
+    struct Speech : SpeechAutomationObject, Recorder {
+        using Recorder::Recorder;
+        ~Speech() override { t.lines.push_back("we released"); }
+        void SpeakString(std::string_view text) override { t.record("we speak " + quoted(text)); }
+        void Silence() override { t.record("we silence"); }
+    };
+    std::unique_ptr<SpeechAutomationObject> CreateObject(std::string_view className) override {
+        t.record("create " + std::string(className));
+        return std::make_unique<Speech>(t);
+    }
+};
+
+// A clock whose every reading is `step` ticks after the last.
+struct FakeClock : Clock {
+    FakeClock(std::uint64_t start, std::uint64_t step) : next(start), step(step) {}
+    std::uint64_t ticks() override { return std::exchange(next, next + step); }
+    std::uint64_t next, step;
+};
+
+}  // namespace marivox::fake

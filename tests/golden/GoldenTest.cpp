@@ -1,0 +1,355 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <set>
+#include <sstream>
+
+#include "fake/Rig.h"
+#include "model/Ships.h"
+
+// Scene scripts (the .scene files beside this one, their commands told in README.md there)
+// played on the whole system over the fakes: each command, then what the program did in
+// answer, compared with the stored .transcript files.
+namespace marivox {
+namespace {
+
+namespace fs = std::filesystem;
+using fake::Rig;
+
+std::string procedureKey(int p) {
+    const std::string name(procedureInfo(static_cast<Procedure>(p)).name);
+    return p == static_cast<int>(Procedure::frmReader_Form_Unload) ? "frmReader." + name : name;
+}
+
+std::pair<int, int> cellNamed(const std::string& name) {
+    if (name.size() != 2 || name[0] < 'A' || name[0] > 'I' || name[1] < '1' || name[1] > '9') {
+        throw std::invalid_argument("not a cell: " + name);
+    }
+    return {name[0] - 'A' + 1, name[1] - '0'};
+}
+
+std::string nameOf(int row, int col) {
+    return {static_cast<char>('A' + row - 1), static_cast<char>('0' + col)};
+}
+
+// Oceans as scripts draw them: '.' open water, 'x' water fired at, a ship's letter for its
+// cell, in lower case once hit.
+char symbolOf(std::int16_t code) {
+    const auto intact = shipWithIntactCode(code);
+    const auto hit = shipWithHitCode(code);
+    return intact ? shipInfo(*intact).letter[0]
+           : hit  ? static_cast<char>(std::tolower(shipInfo(*hit).letter[0]))
+                  : ".x"[code == CellCode::FiredWater];
+}
+
+std::int16_t codeOf(char symbol) {
+    const auto ship = shipWithLetter(std::string(1, static_cast<char>(std::toupper(symbol))));
+    return ship ? (std::islower(symbol) ? shipInfo(*ship).hitCode : shipInfo(*ship).intactCode)
+                : static_cast<std::int16_t>(symbol == '.');
+}
+
+std::vector<std::pair<const char*, std::int16_t*>> fieldsOf(GameState& s) {
+    return {{"TurnState", &s.TurnState},
+            {"Shooting", &s.Shooting},
+            {"GameInProgress", &s.GameInProgress},
+            {"SettingUp", &s.SettingUp},
+            {"MyRow", &s.MyRow},
+            {"MyCol", &s.MyCol},
+            {"HalRow", &s.HalRow},
+            {"HalCol", &s.HalCol},
+            {"MySunkCount", &s.MySunkCount},
+            {"HalSunkCount", &s.HalSunkCount},
+            {"HalHunting", &s.HalHunting},
+            {"HalHuntShip", &s.HalHuntShip},
+            {"HalHitCount", &s.HalHitCount},
+            {"HalHitShip", &s.HalHitShip},
+            {"HalLastRow", &s.HalLastRow},
+            {"HalLastCol", &s.HalLastCol}};
+}
+
+const std::map<std::string, void (GameScreenEvents::*)()> kMenu{
+    {"mnuGameNew", &GameScreenEvents::mnuGameNew_Click},
+    {"mnuGameReader", &GameScreenEvents::mnuGameReader_Click},
+    {"mnuGameExit", &GameScreenEvents::mnuGameExit_Click},
+    {"mnuOptionsStatus", &GameScreenEvents::mnuOptionsStatus_Click},
+    {"mnuOptionsShoot", &GameScreenEvents::mnuOptionsShoot_Click},
+    {"mnuHelpContents", &GameScreenEvents::mnuHelpContents_Click},
+    {"mnuHelpAbout", &GameScreenEvents::mnuHelpAbout_Click}};
+
+const std::map<std::string, std::int16_t> kKeys{
+    {"Enter", KeyCode::Return}, {"F1", KeyCode::F1},       {"F2", KeyCode::F2},
+    {"Up", KeyCode::Up},        {"Down", KeyCode::Down},   {"Left", KeyCode::Left},
+    {"Right", KeyCode::Right},  {"Shift", KeyCode::Shift}, {"Escape", KeyCode::Escape}};
+
+class Scene {
+  public:
+    explicit Scene(std::istream& script) : script_(script) {}
+
+    void command(const std::string& line) {
+        out += "> " + line + "\n";
+        std::istringstream words(line);
+        std::string verb, rest;
+        std::getline(words >> verb >> std::ws, rest);
+        run(verb, rest);
+        const auto& lines = rig->t.lines;
+        for (std::size_t i = shown_, run = 1; i < lines.size(); i += run) {
+            // Cell texts written one after another, as when a game shapes and blanks the
+            // board, are one line; a text they all share is written once.
+            const std::string first = cellText(lines, i);
+            const bool same = cellText(lines, i + 1) == first;
+            std::string texts = first;
+            for (run = 1; !first.empty(); texts += cellText(lines, i + run++)) {
+                const std::string text = cellText(lines, i + run);
+                if (text.empty() || (same ? text != first : cellText(lines, i + run + 1) == text)) {
+                    break;
+                }
+            }
+            out += "  " +
+                   (run < 3 ? lines[i]
+                            : "grid " + lines[i].substr(5, 3) + ".." +
+                                  lines[i + run - 1].substr(5, 3) + (same ? first : texts)) +
+                   "\n";
+            for (std::size_t k = i; k < i + run; ++k) {
+                over_ = over_ || lines[k].find("play again?") != std::string::npos;
+            }
+        }
+        shown_ = lines.size();
+    }
+    bool leftUnused() const {
+        return !rig->t.armed.empty() || !rig->faults.armed.empty() || !rig->boxes.answers.empty() ||
+               !rig->dialog.steps.empty();
+    }
+
+    std::unique_ptr<Rig> rig = std::make_unique<Rig>();
+    std::string out;
+
+  private:
+    // The text of a line that writes a cell's text, or "".
+    static std::string cellText(const std::vector<std::string>& lines, std::size_t i) {
+        const bool cell = i < lines.size() && lines[i].starts_with("grid ") &&
+                          std::isdigit(lines[i][5]) && lines[i].find(',') == 6;
+        return cell ? lines[i].substr(lines[i].find(' ', 5)) : "";
+    }
+
+    void run(const std::string& verb, const std::string& rest) {
+        Rig& r = *rig;
+        std::istringstream words(rest);
+        std::string word;
+        int number = 1;
+        if (verb == "seed") {
+            rig = std::make_unique<Rig>(std::stoull(rest));
+        } else if (verb == "stored") {
+            r.settings.stored.erase(Rig::kReaderSetting);
+            if (rest != "nothing") {
+                r.settings.stored[Rig::kReaderSetting] = rest.substr(1, rest.size() - 2);
+            }
+        } else if (verb == "start") {
+            r.system.Main();
+        } else if (verb == "key") {
+            r.window.press(kKeys.contains(rest) ? kKeys.at(rest) : rest.at(0));
+        } else if (verb == "move") {
+            r.window.board.playerMovesTo(cellNamed(rest).first, cellNamed(rest).second);
+        } else if (verb == "click") {
+            r.window.board.playerClicks(cellNamed(rest).first, cellNamed(rest).second);
+        } else if (verb == "menu") {
+            (r.system.screen.*kMenu.at(rest))();
+        } else if (verb == "close") {
+            r.window.unload();
+        } else if (verb == "wait") {
+            r.timers.advance(std::stoll(rest));
+        } else if (verb == "answer") {
+            while (words >> word) {
+                r.boxes.answers.push_back(word == "yes" ? MsgBoxAnswer::Yes : MsgBoxAnswer::No);
+            }
+        } else if (verb == "dialog") {
+            while (words >> word) {
+                const bool ok = word == "ok" && words >> word;
+                r.dialog.steps.push_back(!ok              ? fake::FakeReaderDialog::kCloseBox
+                                         : word == "none" ? ReaderDialog::kNoSelection
+                                                          : std::stoi(word));
+            }
+        } else if (verb == "fail") {  // fail [occurrence] [std] <start of the failing line>
+            std::string prefix = std::isdigit(rest[0]) ? rest.substr(rest.find(' ') + 1) : rest;
+            const bool standard = prefix.starts_with("std ");
+            r.t.failAt(prefix.substr(standard ? 4 : 0), std::isdigit(rest[0]) ? std::stoi(rest) : 1,
+                       standard ? 0 : 1234);
+        } else if (verb == "break") {
+            words >> word >> number;
+            for (int p = 0; p <= static_cast<int>(Procedure::RunHelp); ++p) {
+                if (procedureKey(p) == word) {
+                    r.faults.armed[static_cast<Procedure>(p)] = number;
+                }
+            }
+        } else if (verb == "ocean") {
+            layOcean(rest == "hal" ? r.state().HalOcean : r.state().MyOcean, rest == "hal");
+        } else if (verb == "aim") {
+            std::tie(r.state().HalRow, r.state().HalCol) = cellNamed(rest);
+        } else if (verb == "set") {
+            words >> word >> number;
+            for (const auto& [field, address] : fieldsOf(r.state())) {
+                *address = word == field ? static_cast<std::int16_t>(number) : *address;
+            }
+            r.app.help = word == "helpFile" ? "" : r.app.help;
+        } else if (verb == "wav") {
+            r.wav.busyUntil = r.sleeper.slept + std::chrono::milliseconds(std::stoll(rest));
+        } else if (verb == "show") {
+            showState();
+        } else if (verb == "autoplay") {
+            autoplay(std::stoull(rest));
+        } else {
+            throw std::invalid_argument("unknown command: " + verb);
+        }
+        shown_ = verb == "seed" ? 0 : shown_;
+    }
+
+    // The script's next nine lines are the ocean's rows; that side's tallies follow the hits.
+    void layOcean(Ocean& ocean, bool computers) {
+        GameState& s = rig->state();
+        std::string line;
+        for (int row = 1; row <= 9 && std::getline(script_, line); ++row) {
+            out += "  " + line + "\n";
+            for (int col = 1; col <= 9; ++col) {
+                ocean.set(row, col, codeOf(line.at(static_cast<std::size_t>(col - 1))));
+            }
+        }
+        auto [hits, sunk, sunkCount] = computers ? std::tie(s.MyHits, s.MySunk, s.MySunkCount)
+                                                 : std::tie(s.HalHits, s.HalSunk, s.HalSunkCount);
+        sunkCount = 0;
+        for (const ShipInfo& ship : kShips) {
+            hits[ship.type] = 0;
+            for (int cell = 0; cell < 81; ++cell) {
+                hits[ship.type] += ocean(cell / 9 + 1, cell % 9 + 1) == ship.hitCode;
+            }
+            sunk[ship.type] = hits[ship.type] == ship.length ? kTrue : kFalse;
+            sunkCount += hits[ship.type] == ship.length;
+        }
+    }
+
+    void showState() {
+        GameState& s = rig->state();
+        const auto fields = fieldsOf(s);
+        for (std::size_t i = 0; i < fields.size(); ++i) {
+            out += std::string(i % 8 == 0 ? "  state" : "") + " " + fields[i].first + " " +
+                   std::to_string(*fields[i].second) + (i % 8 == 7 ? "\n" : "");
+        }
+        for (const auto& [name, tally] : {std::pair{"MyHits", &s.MyHits},
+                                          {"MySunk", &s.MySunk},
+                                          {"HalHits", &s.HalHits},
+                                          {"HalSunk", &s.HalSunk}}) {
+            out += std::string("  state ") + name;
+            for (const std::int16_t value : tally->values) {
+                out += " " + std::to_string(value);
+            }
+            out += "\n";
+        }
+        for (int row = 1; row <= 9; ++row) {
+            out += "  oceans " + nameOf(row, 1).substr(0, 1) + " ";
+            for (const Ocean* ocean : {&s.HalOcean, &s.MyOcean}) {
+                for (int col = 1; col <= 9; ++col) {
+                    out += symbolOf((*ocean)(row, col));
+                }
+                out += ocean == &s.HalOcean ? "  " : "\n";
+            }
+        }
+    }
+
+    // A whole game from here: a player who fires wherever a small generator of its own says,
+    // repeats and all, and waits out each turn of the computer's, until asked to play again.
+    void autoplay(std::uint64_t state) {
+        const auto draw = [&] {
+            state = state * 6364136223846793005ULL + 1442695040888963407ULL;
+            return static_cast<int>(1 + (state >> 33) % 9);
+        };
+        for (int round = 0; round < 1000 && !over_; ++round) {
+            command("move " + nameOf(draw(), draw()));
+            command("key Enter");
+            command("wait 6500");
+        }
+    }
+
+    std::istream& script_;
+    std::size_t shown_ = 0;
+    bool over_ = false;
+};
+
+// Plays every scene of a script, each on a program of its own.
+std::string play(std::istream& script, std::vector<std::string>& leftUnused) {
+    std::string transcript, title;
+    std::unique_ptr<Scene> scene;
+    const auto finish = [&] {
+        if (scene && scene->leftUnused()) {
+            leftUnused.push_back(title);
+        }
+        transcript += scene ? scene->out : "";
+    };
+    for (std::string line; std::getline(script, line);) {
+        if (line.starts_with("== ")) {
+            finish();
+            title = line.substr(3);
+            scene = std::make_unique<Scene>(script);
+            scene->out = line + "\n";
+        } else if (!line.empty() && !line.starts_with("#")) {
+            scene->command(line);
+        }
+    }
+    finish();
+    return transcript;
+}
+
+const fs::path kFolder = MARIVOX_GOLDEN_DIR;
+
+std::vector<std::string> sceneFiles() {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(kFolder)) {
+        if (entry.path().extension() == ".scene") {
+            names.insert(entry.path().stem().string());
+        }
+    }
+    return {names.begin(), names.end()};
+}
+
+class Golden : public ::testing::TestWithParam<std::string> {};
+
+// Every scene must sound as its stored transcript, and use every failure and answer it
+// arms. After a deliberate change, MARIVOX_UPDATE_GOLDEN=1 rewrites the transcripts.
+TEST_P(Golden, PlaysAsStored) {
+    const fs::path stored = kFolder / (GetParam() + ".transcript");
+    std::ifstream script(kFolder / (GetParam() + ".scene"));
+    std::vector<std::string> leftUnused;
+    const std::string transcript = play(script, leftUnused);
+    EXPECT_EQ(leftUnused, std::vector<std::string>{}) << "scenes with failures or answers unused";
+    if (std::getenv("MARIVOX_UPDATE_GOLDEN") != nullptr) {
+        std::ofstream(stored, std::ios::binary) << transcript;
+    }
+    std::ifstream file(stored, std::ios::binary);
+    if (std::string{std::istreambuf_iterator<char>(file), {}} != transcript) {
+        const fs::path actual = fs::absolute(GetParam() + ".actual");
+        std::ofstream(actual, std::ios::binary) << transcript;
+        const std::string diff = "diff -u '" + stored.string() + "' '" + actual.string() + "'";
+        ASSERT_NE(std::system((diff + " | head -n 300").c_str()), -1);
+        FAIL() << "the scenes no longer play as stored (diff above): " << diff;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, Golden, ::testing::ValuesIn(sceneFiles()),
+                         [](const auto& info) { return info.param; });
+
+// The failure table: a scene for every guarded procedure, named after it.
+TEST(FailureTable, HasASceneForEveryGuardedProcedure) {
+    std::ifstream script(kFolder / "failures.scene");
+    std::set<std::string> titles;
+    for (std::string line; std::getline(script, line);) {
+        titles.insert(line.starts_with("== ") ? line.substr(3) : "");
+    }
+    for (int p = 0; p <= static_cast<int>(Procedure::RunHelp); ++p) {
+        EXPECT_EQ(titles.erase(procedureKey(p)), 1u) << procedureKey(p);
+    }
+    EXPECT_EQ(titles, std::set<std::string>{""});
+}
+
+}  // namespace
+}  // namespace marivox

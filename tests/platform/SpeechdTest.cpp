@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include "platform/speechd/SpeechdReaders.h"
+
+namespace marivox {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A speech-dispatcher of the test's own that takes 0.4 s to say each text and records what
+// it is asked to say; killed by its pid at the end.
+class Speechd : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        const std::string start = std::string(MARIVOX_SOURCE_DIR) +
+                                  "/tests/e2e/speechd/start-private-speechd " + dir.string() +
+                                  " 0.4";
+        FILE* out = ::popen(start.c_str(), "r");
+        char line[4096];
+        while (out != nullptr && std::fgets(line, sizeof line, out) != nullptr) {
+            const std::string text(line, std::strcspn(line, "\n"));
+            if (text.starts_with("SPEECHD_ADDRESS=")) {
+                ::setenv("SPEECHD_ADDRESS", text.substr(16).c_str(), 1);
+            }
+            pid = text.starts_with("PID=") ? std::stoi(text.substr(4)) : pid;
+        }
+        ASSERT_TRUE(out != nullptr && ::pclose(out) == 0 && pid > 0);
+    }
+    void TearDown() override {
+        ::kill(pid, SIGKILL);
+        fs::remove_all(dir);
+    }
+    // What has been said once `last` has, or after ten seconds.
+    std::vector<std::string> spokenUntil(const std::string& last) const {
+        std::vector<std::string> texts;
+        for (int wait = 0; wait < 500 && (texts.empty() || texts.back() != last); ++wait) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            std::ifstream log(dir / "spoken.log", std::ios::binary);
+            texts.clear();
+            for (std::string entry; std::getline(log, entry);) {
+                const auto bar = entry.find('|');  // "<time>|<text>|"
+                texts.push_back(entry.substr(bar + 1, entry.size() - bar - 2));
+            }
+        }
+        return texts;
+    }
+
+    fs::path dir = fs::temp_directory_path() / ("marivox-speechd-" + std::to_string(::getpid()));
+    int pid = 0;
+};
+
+// Texts arrive whole, blanks and all, in order; and each stop cuts off what is queued, the
+// second as the first: a key stops speech twice before speaking, and whatever was said
+// since the last stop must be silenced.
+TEST_F(Speechd, TextsArriveWholeAndEveryStopDropsWhatIsQueued) {
+    speechd::SpeechdJawsApi jaws;
+    for (const std::string round : {"first", "second"}) {
+        for (int i = 1; i <= 5; ++i) {
+            jaws.JFWSayString(" " + round + " " + std::to_string(i) + ", \xc3\xa9t\xc3\xa9.  ",
+                              false);
+        }
+        jaws.JFWStopSpeech();
+        jaws.JFWStopSpeech();
+        jaws.JFWSayString("after the " + round + " stop", false);
+    }
+    const std::vector<std::string> spoken = spokenUntil("after the second stop");
+    ASSERT_FALSE(spoken.empty());
+    EXPECT_EQ(spoken.front(), " first 1, \xc3\xa9t\xc3\xa9.  ");
+    EXPECT_EQ(spoken.back(), "after the second stop");
+    for (const char* cut : {" first 5, \xc3\xa9t\xc3\xa9.  ", " second 5, \xc3\xa9t\xc3\xa9.  "}) {
+        EXPECT_EQ(std::count(spoken.begin(), spoken.end(), cut), 0) << cut << "was not cut off";
+    }
+}
+
+}  // namespace
+}  // namespace marivox
