@@ -24,7 +24,8 @@
 #include "platform/Sleeper.h"
 #include "platform/WavPlayer.h"
 
-// Fakes of every port, each writing what it is asked into one shared transcript.
+// Fakes of every port, each writing what it is asked into one shared transcript (its lines
+// are told in tests/golden/README.md).
 namespace marivox::fake {
 
 struct Recorder {
@@ -34,7 +35,6 @@ struct Recorder {
 
 // Virtual time: timers fire only as a test lets time pass, in the order they fall due (ties
 // in the order they were switched on), and no more once the event loop has `ended`.
-// Lines: `timer <name> on|off|tick`.
 struct FakeTimers : TimerFactory, Recorder {
     using Recorder::Recorder;
     struct Timer : OneShotTimer {
@@ -84,9 +84,7 @@ struct FakeTimers : TimerFactory, Recorder {
     Timer* nextDue() const {
         Timer* next = nullptr;
         for (Timer* timer : timers) {
-            if (timer->on && timer->waiting && (!next || timer->due < next->due)) {
-                next = timer;
-            }
+            next = timer->on && timer->waiting && (!next || timer->due < next->due) ? timer : next;
         }
         return next;
     }
@@ -98,8 +96,7 @@ struct FakeTimers : TimerFactory, Recorder {
 
 // The board control: moving the cursor, by code or by the player, raises the cursor-moved
 // event when the cell changes; a click makes the clicked cell current first; the cursor
-// never stands on a heading. Lines: `grid <row>,<col> "<text>"` for every cell text, and
-// `grid <what> <value>` for the grid's shape and colours.
+// never stands on a heading.
 struct FakeGrid : GridControl, Recorder {
     using Recorder::Recorder;
     void setListener(GridEvents* e) override { events = e; }
@@ -176,7 +173,6 @@ struct FakeGrid : GridControl, Recorder {
 };
 
 // The game window; once it has closed no window is left, and the event loop ends.
-// Lines: `window load|show|unload|closed`, `unload other windows`.
 struct FakeWindow : GameWindow, Recorder {
     FakeWindow(Transcript& t, FakeTimers& timers) : Recorder(t), board(t), timers(timers) {}
     void load(GameScreenEvents& e) override {
@@ -217,7 +213,6 @@ struct FakeWindow : GameWindow, Recorder {
 };
 
 // Answers as scripted, else a question by `answerer` or No, anything else with OK.
-// Lines: `box <style> "<title>" "<text>"`, then `answer <code>`.
 struct FakeBoxes : MessageBoxes, Recorder {
     using Recorder::Recorder;
     int show(std::string_view text, int style, std::string_view title) override {
@@ -237,8 +232,7 @@ struct FakeBoxes : MessageBoxes, Recorder {
 };
 
 // The screen-reader dialog, worked by a scripted player: each step selects an item (or
-// none) and presses OK, or presses the close box. Lines: `reader dialog open|closed`,
-// `reader item "<text>"`, `reader list <index>`, `reader OK <index>`, `reader close box`.
+// none) and presses OK, or presses the close box.
 struct FakeReaderDialog : ReaderDialog, Recorder {
     static constexpr int kCloseBox = -2;
     using Recorder::Recorder;
@@ -277,8 +271,7 @@ struct FakeReaderDialog : ReaderDialog, Recorder {
     bool open = false;
 };
 
-// The About box, its OK button pressed as soon as it shows. Lines: `about open|closed`,
-// `about title "<text>"`, `about version "<text>"`.
+// The About box, its OK button pressed as soon as it shows.
 struct FakeAboutBox : AboutBox, Recorder {
     using Recorder::Recorder;
     void showModal(AboutBoxEvents& e) override {
@@ -293,7 +286,7 @@ struct FakeAboutBox : AboutBox, Recorder {
     }
 };
 
-// Ending the program ends the timers' event loop. Lines: `end program`.
+// Ending the program ends the timers' event loop.
 struct FakeApplication : Application, Recorder {
     FakeApplication(Transcript& t, FakeTimers& timers) : Recorder(t), timers(timers) {}
     std::string programFolder() const override { return "/opt/marivox"; }
@@ -311,27 +304,25 @@ struct FakeApplication : Application, Recorder {
     bool ended = false;
 };
 
-// Lines: `setting get <application>/<section>/<key>`, `setting save <...> "<value>"`.
 struct FakeSettings : SettingsStore, Recorder {
     using Recorder::Recorder;
     std::string GetSetting(std::string_view app, std::string_view section, std::string_view key,
                            std::string_view defaultValue) override {
-        const std::string name =
-            std::string(app) + "/" + std::string(section) + "/" + std::string(key);
+        const std::string name = join(app, section, key);
         t.record("setting get " + name);
         return stored.contains(name) ? stored[name] : std::string(defaultValue);
     }
     void SaveSetting(std::string_view app, std::string_view section, std::string_view key,
                      std::string_view value) override {
-        const std::string name =
-            std::string(app) + "/" + std::string(section) + "/" + std::string(key);
-        t.record("setting save " + name + " " + quoted(value));
-        stored[name] = value;
+        t.record("setting save " + join(app, section, key) + " " + quoted(value));
+        stored[join(app, section, key)] = value;
+    }
+    static std::string join(std::string_view app, std::string_view section, std::string_view key) {
+        return std::string(app) + "/" + std::string(section) + "/" + std::string(key);
     }
     std::map<std::string, std::string> stored;
 };
 
-// Lines: `shell <owner> <operation|null> "<file>" <parameters|null> "<folder>" <show>`.
 struct FakeShell : Shell, Recorder {
     using Recorder::Recorder;
     void ShellExecute(std::intptr_t owner, const char* operation, std::string_view file,
@@ -348,8 +339,6 @@ struct FakeSleeper : Sleeper {
 };
 
 // An output that refuses requests as busy until the game has slept `busyUntil` in all.
-// Lines: `sound <path>` as a sound is opened; a request that met a busy output ends with
-// `sound accepted|given up after <ms> ms busy`.
 struct FakeWavPlayer : WavPlayer, Recorder {
     FakeWavPlayer(Transcript& t, FakeSleeper& sleeper) : Recorder(t), sleeper(sleeper) {}
     void open(std::string_view path) override {
@@ -369,7 +358,6 @@ struct FakeWavPlayer : WavPlayer, Recorder {
     std::int32_t busy = 0;
 };
 
-// Lines: `speak "<text>"` (`speak! ` when asked to interrupt), `stop`.
 struct FakeJaws : JawsApi, Recorder {
     using Recorder::Recorder;
     void JFWSayString(std::string_view text, bool interrupt) override {
@@ -378,7 +366,6 @@ struct FakeJaws : JawsApi, Recorder {
     void JFWStopSpeech() override { t.record("stop"); }
 };
 
-// Lines: `create <class>`, then the object's `we speak "<text>"`, `we silence`, `we released`.
 struct FakeAutomation : AutomationObjects, Recorder {
     using Recorder::Recorder;
     struct Speech : SpeechAutomationObject, Recorder {

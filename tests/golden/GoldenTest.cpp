@@ -53,22 +53,13 @@ std::int16_t codeOf(char symbol) {
 }
 
 std::vector<std::pair<const char*, std::int16_t*>> fieldsOf(GameState& s) {
-    return {{"TurnState", &s.TurnState},
-            {"Shooting", &s.Shooting},
-            {"GameInProgress", &s.GameInProgress},
-            {"SettingUp", &s.SettingUp},
-            {"MyRow", &s.MyRow},
-            {"MyCol", &s.MyCol},
-            {"HalRow", &s.HalRow},
-            {"HalCol", &s.HalCol},
-            {"MySunkCount", &s.MySunkCount},
-            {"HalSunkCount", &s.HalSunkCount},
-            {"HalHunting", &s.HalHunting},
-            {"HalHuntShip", &s.HalHuntShip},
-            {"HalHitCount", &s.HalHitCount},
-            {"HalHitShip", &s.HalHitShip},
-            {"HalLastRow", &s.HalLastRow},
-            {"HalLastCol", &s.HalLastCol}};
+#define FIELD(name) \
+    { #name, &s.name }
+    return {FIELD(TurnState),   FIELD(Shooting),     FIELD(GameInProgress), FIELD(SettingUp),
+            FIELD(MyRow),       FIELD(MyCol),        FIELD(HalRow),         FIELD(HalCol),
+            FIELD(MySunkCount), FIELD(HalSunkCount), FIELD(HalHunting),     FIELD(HalHuntShip),
+            FIELD(HalHitCount), FIELD(HalHitShip),   FIELD(HalLastRow),     FIELD(HalLastCol)};
+#undef FIELD
 }
 
 const std::map<std::string, void (GameScreenEvents::*)()> kMenu{
@@ -95,27 +86,26 @@ class Scene {
         std::string verb, rest;
         std::getline(words >> verb >> std::ws, rest);
         run(verb, rest);
+        // Cell texts written one after another, as when a game blanks the board, are one
+        // line, a text written to n cells in a row shown once as "<text>"*n.
         const auto& lines = rig->t.lines;
-        for (std::size_t i = shown_, run = 1; i < lines.size(); i += run) {
-            // Cell texts written one after another, as when a game shapes and blanks the
-            // board, are one line; a text they all share is written once.
-            const std::string first = cellText(lines, i);
-            const bool same = cellText(lines, i + 1) == first;
-            std::string texts = first;
-            for (run = 1; !first.empty(); texts += cellText(lines, i + run++)) {
-                const std::string text = cellText(lines, i + run);
-                if (text.empty() || (same ? text != first : cellText(lines, i + run + 1) == text)) {
-                    break;
+        for (std::size_t i = shown_, end = i; i < lines.size(); i = std::max(end, i + 1)) {
+            std::string texts;
+            for (end = i; !cellText(lines, end).empty();) {
+                const std::size_t from = end;
+                while (cellText(lines, end) == cellText(lines, from)) {
+                    ++end;
                 }
+                texts += cellText(lines, from) +
+                         (end - from > 1 ? "*" + std::to_string(end - from) : "");
             }
             out += "  " +
-                   (run < 3 ? lines[i]
-                            : "grid " + lines[i].substr(5, 3) + ".." +
-                                  lines[i + run - 1].substr(5, 3) + (same ? first : texts)) +
+                   (end - i < 3 ? lines[i]
+                                : "grid " + lines[i].substr(5, 3) + ".." +
+                                      lines[end - 1].substr(5, 3) + texts) +
                    "\n";
-            for (std::size_t k = i; k < i + run; ++k) {
-                over_ = over_ || lines[k].find("play again?") != std::string::npos;
-            }
+            end = end - i < 3 ? i + 1 : end;
+            over_ = over_ || lines[i].find("play again?") != std::string::npos;
         }
         shown_ = lines.size();
     }

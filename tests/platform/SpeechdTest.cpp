@@ -58,27 +58,24 @@ class Speechd : public ::testing::Test {
     int pid = 0;
 };
 
-// Texts arrive whole, blanks and all, in order; and each stop cuts off what is queued, the
-// second as the first: a key stops speech twice before speaking, and whatever was said
-// since the last stop must be silenced.
+// Texts arrive whole, blanks and all; and each stop cuts off what is queued, the second as
+// the first: a key stops speech twice before speaking, and whatever was said since the last
+// stop must be silenced. Of the texts before a stop, only the first may have begun.
 TEST_F(Speechd, TextsArriveWholeAndEveryStopDropsWhatIsQueued) {
     speechd::SpeechdJawsApi jaws;
+    std::vector<std::string> spoken, after;
     for (const std::string round : {"first", "second"}) {
         for (int i = 1; i <= 5; ++i) {
-            jaws.JFWSayString(" " + round + " " + std::to_string(i) + ", \xc3\xa9t\xc3\xa9.  ",
-                              false);
+            jaws.JFWSayString(round + " " + std::to_string(i), false);
         }
         jaws.JFWStopSpeech();
         jaws.JFWStopSpeech();
-        jaws.JFWSayString("after the " + round + " stop", false);
+        after.push_back(" after the " + round + " stop, \xc3\xa9t\xc3\xa9.  ");
+        jaws.JFWSayString(after.back(), false);
+        spoken = spokenUntil(after.back());
     }
-    const std::vector<std::string> spoken = spokenUntil("after the second stop");
-    ASSERT_FALSE(spoken.empty());
-    EXPECT_EQ(spoken.front(), " first 1, \xc3\xa9t\xc3\xa9.  ");
-    EXPECT_EQ(spoken.back(), "after the second stop");
-    for (const char* cut : {" first 5, \xc3\xa9t\xc3\xa9.  ", " second 5, \xc3\xa9t\xc3\xa9.  "}) {
-        EXPECT_EQ(std::count(spoken.begin(), spoken.end(), cut), 0) << cut << "was not cut off";
-    }
+    std::erase_if(spoken, [](const std::string& text) { return text.ends_with(" 1"); });
+    EXPECT_EQ(spoken, after);
 }
 
 }  // namespace
