@@ -19,7 +19,6 @@ struct Transcript {
         int remaining;
         std::int32_t number;  // 0: a plain standard exception, as a fault of an adapter's own
     };
-
     // `kept` false: only checked for an armed failure, not written down (calls too many to
     // read, such as each cell's colours).
     void record(const std::string& line, bool kept = true) {
@@ -28,20 +27,14 @@ struct Transcript {
                 const std::int32_t number = it->number;
                 armed.erase(it);
                 lines.push_back("FAILED " + line);
-                if (number == 0) {
-                    throw std::runtime_error("Injected fault");
-                }
-                throw Failure(number, "Injected failure");
+                number == 0 ? throw std::runtime_error("Injected fault")
+                            : throw Failure(number, "Injected failure");
             }
         }
         if (kept) {
             lines.push_back(line);
         }
     }
-    void failAt(std::string prefix, int occurrence = 1, std::int32_t number = 1234) {
-        armed.push_back({std::move(prefix), occurrence, number});
-    }
-
     std::vector<std::string> lines;
     std::vector<Armed> armed;  // failures not met yet
 };

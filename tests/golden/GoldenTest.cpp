@@ -11,9 +11,8 @@
 #include "fake/Rig.h"
 #include "model/Ships.h"
 
-// Scene scripts (the .scene files beside this one, their commands told in README.md there)
-// played on the whole system over the fakes: each command, then what the program did in
-// answer, compared with the stored .transcript files.
+// Scene scripts (the .scene files here, their commands told in README.md) played on the
+// whole system over the fakes, compared with the stored .transcript files.
 namespace marivox {
 namespace {
 
@@ -32,20 +31,8 @@ std::pair<int, int> cellNamed(const std::string& name) {
     return {name[0] - 'A' + 1, name[1] - '0'};
 }
 
-std::string nameOf(int row, int col) {
-    return {static_cast<char>('A' + row - 1), static_cast<char>('0' + col)};
-}
-
-// Oceans as scripts draw them: '.' open water, 'x' water fired at, a ship's letter for its
-// cell, in lower case once hit.
-char symbolOf(std::int16_t code) {
-    const auto intact = shipWithIntactCode(code);
-    const auto hit = shipWithHitCode(code);
-    return intact ? shipInfo(*intact).letter[0]
-           : hit  ? static_cast<char>(std::tolower(shipInfo(*hit).letter[0]))
-                  : ".x"[code == CellCode::FiredWater];
-}
-
+// A cell as scripts draw it: '.' open water, 'x' water fired at, a ship's letter, in lower
+// case once hit.
 std::int16_t codeOf(char symbol) {
     const auto ship = shipWithLetter(std::string(1, static_cast<char>(std::toupper(symbol))));
     return ship ? (std::islower(symbol) ? shipInfo(*ship).hitCode : shipInfo(*ship).intactCode)
@@ -76,20 +63,24 @@ const std::map<std::string, std::int16_t> kKeys{
     {"Up", KeyCode::Up},        {"Down", KeyCode::Down},   {"Left", KeyCode::Left},
     {"Right", KeyCode::Right},  {"Shift", KeyCode::Shift}, {"Escape", KeyCode::Escape}};
 
-class Scene {
-  public:
-    explicit Scene(std::istream& script) : script_(script) {}
+// The text of a line that writes a cell's text, or "".
+std::string cellText(const std::vector<std::string>& lines, std::size_t i) {
+    const bool cell = i < lines.size() && lines[i].starts_with("grid ") &&
+                      std::isdigit(lines[i][5]) && lines[i].find(',') == 6;
+    return cell ? lines[i].substr(lines[i].find(' ', 5)) : "";
+}
 
+struct Scene {
+    // Each command, then what the program did in answer. Three or more cell texts written
+    // one after another are one line, n of one text in a row shown as "<text>"*n.
     void command(const std::string& line) {
         out += "> " + line + "\n";
         std::istringstream words(line);
         std::string verb, rest;
         std::getline(words >> verb >> std::ws, rest);
         run(verb, rest);
-        // Cell texts written one after another, as when a game blanks the board, are one
-        // line, a text written to n cells in a row shown once as "<text>"*n.
         const auto& lines = rig->t.lines;
-        for (std::size_t i = shown_, end = i; i < lines.size(); i = std::max(end, i + 1)) {
+        for (std::size_t i = shown, end = i; i < lines.size(); i = end - i < 3 ? i + 1 : end) {
             std::string texts;
             for (end = i; !cellText(lines, end).empty();) {
                 const std::size_t from = end;
@@ -104,25 +95,9 @@ class Scene {
                                 : "grid " + lines[i].substr(5, 3) + ".." +
                                       lines[end - 1].substr(5, 3) + texts) +
                    "\n";
-            end = end - i < 3 ? i + 1 : end;
-            over_ = over_ || lines[i].find("play again?") != std::string::npos;
+            over = over || lines[i].find("play again?") != std::string::npos;
         }
-        shown_ = lines.size();
-    }
-    bool leftUnused() const {
-        return !rig->t.armed.empty() || !rig->faults.armed.empty() || !rig->boxes.answers.empty() ||
-               !rig->dialog.steps.empty();
-    }
-
-    std::unique_ptr<Rig> rig = std::make_unique<Rig>();
-    std::string out;
-
-  private:
-    // The text of a line that writes a cell's text, or "".
-    static std::string cellText(const std::vector<std::string>& lines, std::size_t i) {
-        const bool cell = i < lines.size() && lines[i].starts_with("grid ") &&
-                          std::isdigit(lines[i][5]) && lines[i].find(',') == 6;
-        return cell ? lines[i].substr(lines[i].find(' ', 5)) : "";
+        shown = lines.size();
     }
 
     void run(const std::string& verb, const std::string& rest) {
@@ -132,6 +107,7 @@ class Scene {
         int number = 1;
         if (verb == "seed") {
             rig = std::make_unique<Rig>(std::stoull(rest));
+            shown = 0;
         } else if (verb == "stored") {
             r.settings.stored.erase(Rig::kReaderSetting);
             if (rest != "nothing") {
@@ -141,10 +117,10 @@ class Scene {
             r.system.Main();
         } else if (verb == "key") {
             r.window.press(kKeys.contains(rest) ? kKeys.at(rest) : rest.at(0));
-        } else if (verb == "move") {
-            r.window.board.playerMovesTo(cellNamed(rest).first, cellNamed(rest).second);
-        } else if (verb == "click") {
-            r.window.board.playerClicks(cellNamed(rest).first, cellNamed(rest).second);
+        } else if (verb == "move" || verb == "click") {
+            const auto [row, col] = cellNamed(rest);
+            verb == "move" ? r.window.board.playerMovesTo(row, col)
+                           : r.window.board.playerClicks(row, col);
         } else if (verb == "menu") {
             (r.system.screen.*kMenu.at(rest))();
         } else if (verb == "close") {
@@ -165,8 +141,8 @@ class Scene {
         } else if (verb == "fail") {  // fail [occurrence] [std] <start of the failing line>
             std::string prefix = std::isdigit(rest[0]) ? rest.substr(rest.find(' ') + 1) : rest;
             const bool standard = prefix.starts_with("std ");
-            r.t.failAt(prefix.substr(standard ? 4 : 0), std::isdigit(rest[0]) ? std::stoi(rest) : 1,
-                       standard ? 0 : 1234);
+            r.t.armed.push_back({prefix.substr(standard ? 4 : 0),
+                                 std::isdigit(rest[0]) ? std::stoi(rest) : 1, standard ? 0 : 1234});
         } else if (verb == "break") {
             words >> word >> number;
             for (int p = 0; p <= static_cast<int>(Procedure::RunHelp); ++p) {
@@ -187,20 +163,23 @@ class Scene {
         } else if (verb == "wav") {
             r.wav.busyUntil = r.sleeper.slept + std::chrono::milliseconds(std::stoll(rest));
         } else if (verb == "show") {
-            showState();
+            const auto fields = fieldsOf(r.state());
+            for (std::size_t i = 0; i < fields.size(); ++i) {
+                out += std::string(i % 8 == 0 ? "  state" : "") + " " + fields[i].first + " " +
+                       std::to_string(*fields[i].second) + (i % 8 == 7 ? "\n" : "");
+            }
         } else if (verb == "autoplay") {
             autoplay(std::stoull(rest));
         } else {
             throw std::invalid_argument("unknown command: " + verb);
         }
-        shown_ = verb == "seed" ? 0 : shown_;
     }
 
     // The script's next nine lines are the ocean's rows; that side's tallies follow the hits.
     void layOcean(Ocean& ocean, bool computers) {
         GameState& s = rig->state();
         std::string line;
-        for (int row = 1; row <= 9 && std::getline(script_, line); ++row) {
+        for (int row = 1; row <= 9 && std::getline(script, line); ++row) {
             out += "  " + line + "\n";
             for (int col = 1; col <= 9; ++col) {
                 ocean.set(row, col, codeOf(line.at(static_cast<std::size_t>(col - 1))));
@@ -219,60 +198,39 @@ class Scene {
         }
     }
 
-    void showState() {
-        GameState& s = rig->state();
-        const auto fields = fieldsOf(s);
-        for (std::size_t i = 0; i < fields.size(); ++i) {
-            out += std::string(i % 8 == 0 ? "  state" : "") + " " + fields[i].first + " " +
-                   std::to_string(*fields[i].second) + (i % 8 == 7 ? "\n" : "");
-        }
-        for (const auto& [name, tally] : {std::pair{"MyHits", &s.MyHits},
-                                          {"MySunk", &s.MySunk},
-                                          {"HalHits", &s.HalHits},
-                                          {"HalSunk", &s.HalSunk}}) {
-            out += std::string("  state ") + name;
-            for (const std::int16_t value : tally->values) {
-                out += " " + std::to_string(value);
-            }
-            out += "\n";
-        }
-        for (int row = 1; row <= 9; ++row) {
-            out += "  oceans " + nameOf(row, 1).substr(0, 1) + " ";
-            for (const Ocean* ocean : {&s.HalOcean, &s.MyOcean}) {
-                for (int col = 1; col <= 9; ++col) {
-                    out += symbolOf((*ocean)(row, col));
-                }
-                out += ocean == &s.HalOcean ? "  " : "\n";
-            }
-        }
-    }
-
     // A whole game from here: a player who fires wherever a small generator of its own says,
     // repeats and all, and waits out each turn of the computer's, until asked to play again.
     void autoplay(std::uint64_t state) {
         const auto draw = [&] {
             state = state * 6364136223846793005ULL + 1442695040888963407ULL;
-            return static_cast<int>(1 + (state >> 33) % 9);
+            return static_cast<char>((state >> 33) % 9);
         };
-        for (int round = 0; round < 1000 && !over_; ++round) {
-            command("move " + nameOf(draw(), draw()));
+        for (int round = 0; round < 1000 && !over; ++round) {
+            const char col = draw(), row = draw();  // the column drawn first
+            command("move " +
+                    std::string{static_cast<char>('A' + row), static_cast<char>('1' + col)});
             command("key Enter");
             command("wait 6500");
         }
     }
 
-    std::istream& script_;
-    std::size_t shown_ = 0;
-    bool over_ = false;
+    std::istream& script;
+    std::unique_ptr<Rig> rig = std::make_unique<Rig>();
+    std::string out;
+    std::size_t shown = 0;
+    bool over = false;
 };
 
-// Plays every scene of a script, each on a program of its own.
-std::string play(std::istream& script, std::vector<std::string>& leftUnused) {
+// Plays every scene of a script, each on a program of its own; `unused` gets the title of
+// each scene that left a failure, answer or dialog step unused.
+std::string play(std::istream& script, std::string& unused) {
     std::string transcript, title;
     std::unique_ptr<Scene> scene;
     const auto finish = [&] {
-        if (scene && scene->leftUnused()) {
-            leftUnused.push_back(title);
+        const Rig* r = scene ? scene->rig.get() : nullptr;
+        if (r && (!r->t.armed.empty() || !r->faults.armed.empty() || !r->boxes.answers.empty() ||
+                  !r->dialog.steps.empty())) {
+            unused += title + "; ";
         }
         transcript += scene ? scene->out : "";
     };
@@ -280,8 +238,7 @@ std::string play(std::istream& script, std::vector<std::string>& leftUnused) {
         if (line.starts_with("== ")) {
             finish();
             title = line.substr(3);
-            scene = std::make_unique<Scene>(script);
-            scene->out = line + "\n";
+            scene.reset(new Scene{script, std::make_unique<Rig>(), line + "\n"});
         } else if (!line.empty() && !line.starts_with("#")) {
             scene->command(line);
         }
@@ -292,26 +249,25 @@ std::string play(std::istream& script, std::vector<std::string>& leftUnused) {
 
 const fs::path kFolder = MARIVOX_GOLDEN_DIR;
 
-std::vector<std::string> sceneFiles() {
+std::set<std::string> sceneFiles() {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(kFolder)) {
-        if (entry.path().extension() == ".scene") {
-            names.insert(entry.path().stem().string());
-        }
+        names.insert(entry.path().extension() == ".scene" ? entry.path().stem().string() : "");
     }
-    return {names.begin(), names.end()};
+    names.erase("");
+    return names;
 }
 
 class Golden : public ::testing::TestWithParam<std::string> {};
 
-// Every scene must sound as its stored transcript, and use every failure and answer it
-// arms. After a deliberate change, MARIVOX_UPDATE_GOLDEN=1 rewrites the transcripts.
+// Every scene must sound as stored, and use every failure and answer it arms. After a
+// deliberate change, MARIVOX_UPDATE_GOLDEN=1 rewrites the transcripts.
 TEST_P(Golden, PlaysAsStored) {
     const fs::path stored = kFolder / (GetParam() + ".transcript");
     std::ifstream script(kFolder / (GetParam() + ".scene"));
-    std::vector<std::string> leftUnused;
-    const std::string transcript = play(script, leftUnused);
-    EXPECT_EQ(leftUnused, std::vector<std::string>{}) << "scenes with failures or answers unused";
+    std::string unused;
+    const std::string transcript = play(script, unused);
+    EXPECT_EQ(unused, "") << "scenes with failures or answers unused";
     if (std::getenv("MARIVOX_UPDATE_GOLDEN") != nullptr) {
         std::ofstream(stored, std::ios::binary) << transcript;
     }

@@ -30,9 +30,7 @@ using Heard = std::vector<std::string>;
 struct Screen : GameScreenEvents, GridEvents, ReaderDialogEvents {
     void hear(const std::string& what) {
         heard.push_back(what);
-        if (failing) {
-            fault(what);
-        }
+        failing ? fault(what) : void();
     }
     void Form_Load() override {}
     void Form_Unload(std::int16_t&) override {}
