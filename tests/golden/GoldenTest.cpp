@@ -95,7 +95,6 @@ struct Scene {
                                 : "grid " + lines[i].substr(5, 3) + ".." +
                                       lines[end - 1].substr(5, 3) + texts) +
                    "\n";
-            over = over || lines[i].find("play again?") != std::string::npos;
         }
         shown = lines.size();
     }
@@ -168,8 +167,6 @@ struct Scene {
                 out += std::string(i % 8 == 0 ? "  state" : "") + " " + fields[i].first + " " +
                        std::to_string(*fields[i].second) + (i % 8 == 7 ? "\n" : "");
             }
-        } else if (verb == "autoplay") {
-            autoplay(std::stoull(rest));
         } else {
             throw std::invalid_argument("unknown command: " + verb);
         }
@@ -198,27 +195,10 @@ struct Scene {
         }
     }
 
-    // A whole game from here: a player who fires wherever a small generator of its own says,
-    // repeats and all, and waits out each turn of the computer's, until asked to play again.
-    void autoplay(std::uint64_t state) {
-        const auto draw = [&] {
-            state = state * 6364136223846793005ULL + 1442695040888963407ULL;
-            return static_cast<char>((state >> 33) % 9);
-        };
-        for (int round = 0; round < 1000 && !over; ++round) {
-            const char col = draw(), row = draw();  // the column drawn first
-            command("move " +
-                    std::string{static_cast<char>('A' + row), static_cast<char>('1' + col)});
-            command("key Enter");
-            command("wait 6500");
-        }
-    }
-
     std::istream& script;
     std::unique_ptr<Rig> rig = std::make_unique<Rig>();
     std::string out;
     std::size_t shown = 0;
-    bool over = false;
 };
 
 // Plays every scene of a script, each on a program of its own; `unused` gets the title of

@@ -4,18 +4,25 @@
 
 #include <QTemporaryDir>
 #include <QTest>
+#include <filesystem>
+#include <mutex>
+#include <regex>
 #include <thread>
 
 #include "fake/Fakes.h"
+#include "platform/audio/StreamWavPlayer.h"
+#include "platform/audio/WavFile.h"
 #include "platform/qt/GridWidget.h"
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/QtTimers.h"
+#include "speech/SoundFiles.h"
 
-// The same checks on each fake and on the adapter it stands for, so the fakes the game's
-// tests run on cannot drift from the real thing.
+// Contracts: the same checks on each fake and on the adapter it stands for, so the fakes the
+// game's tests run on cannot drift from the real thing. Then the sound adapters on their own.
 namespace marivox {
 namespace {
 
+namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
 // `hold` lets time pass with the event loop held, as a blocking call does; `deliver` lets
@@ -126,11 +133,10 @@ TEST(GridContract, Qt) {
 // A value reads back exactly, an empty one too (a choice of nothing, not nothing stored),
 // and a missing one as the default.
 void checkSettings(SettingsStore& store) {
-    const auto reader = [&] { return store.GetSetting("Marivox", "StartUp", "Reader", "None"); };
-    EXPECT_EQ(reader(), "None");
+    EXPECT_EQ(store.GetSetting("Marivox", "StartUp", "Reader", "None"), "None");
     for (const char* value : {"JFW", " WE ", "", "we;=\"[x]\" \xc3\xa9"}) {
         store.SaveSetting("Marivox", "StartUp", "Reader", value);
-        EXPECT_EQ(reader(), value);
+        EXPECT_EQ(store.GetSetting("Marivox", "StartUp", "Reader", "None"), value);
     }
 }
 
@@ -145,6 +151,77 @@ TEST(SettingsContract, Qt) {
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
     qt::QtSettingsStore store;
     checkSettings(store);
+}
+
+std::string soundFile(std::string_view sound) {
+    return (fs::path(MARIVOX_PROGRAM_DIR) / sound::fileName(sound)).string();
+}
+
+using Samples = std::vector<std::int16_t>;
+using Heard = std::pair<std::mutex, std::vector<Samples>>;  // each connection's samples
+
+// A sound device in memory; what it heard is shared, as the player's worker may outlive
+// the test.
+struct Device : audio::AudioStream {
+    explicit Device(std::shared_ptr<Heard> h) : heard(std::move(h)) {}
+    bool write(std::span<const std::int16_t> samples) override {
+        std::lock_guard lock(heard->first);
+        heard->second.back().insert(heard->second.back().end(), samples.begin(), samples.end());
+        return true;
+    }
+    bool endOfSounds() override { return true; }
+    bool drain() override { return true; }
+    std::shared_ptr<Heard> heard;
+};
+
+// Sounds asked for one after another are heard whole, in order and back to back, however
+// their lengths fall against the player's chunks.
+TEST(Player, PlaysEachSoundWholeInOrderWithoutAGap) {
+    auto heard = std::make_shared<Heard>();
+    audio::StreamWavPlayer player([heard] {
+        std::lock_guard lock(heard->first);
+        heard->second.emplace_back();
+        return std::make_unique<Device>(heard);
+    });
+    Samples expected;
+    for (const std::string_view sound : {sound::Shoot, sound::Hit, sound::Shoot, sound::Sink}) {
+        player.open(soundFile(sound));
+        player.play(0, -1, true);
+        EXPECT_EQ(player.status(), 0);
+        player.closeSound();
+        const Samples samples = audio::toMono(audio::readWavFile(soundFile(sound)));
+        expected.insert(expected.end(), samples.begin(), samples.end());
+    }
+    player.drainBeforeExit(std::chrono::seconds(5));
+    std::lock_guard lock(heard->first);
+    EXPECT_TRUE(heard->second == std::vector<Samples>{expected})
+        << heard->second.size() << " connections, " << expected.size() << " samples expected";
+}
+
+// The corpus the WAV fuzzer starts from: each file reads as the layout its name begins with,
+// or, named bad-, is refused as a damaged sound naming the file; our own sounds all read as
+// what the output takes.
+TEST(WavFiles, ReadAsTheirNamesSayAndDamagedOnesAreRefused) {
+    const fs::path corpus = fs::path(MARIVOX_SOURCE_DIR) / "tests/fuzz/corpus/wav_fuzzer";
+    std::vector<fs::path> files(fs::directory_iterator(corpus), {});
+    for (const std::string_view sound : sound::kAll) {
+        files.emplace_back(soundFile(sound));
+    }
+    for (const fs::path& file : files) {
+        const std::string name = file.filename().string();
+        std::string read = "bad";
+        try {
+            const audio::WavData wav = audio::readWavFile(file.string());
+            read = (wav.channels == 1 ? "mono" : "stereo") + std::to_string(wav.bitsPerSample) +
+                   "-" + std::to_string(wav.sampleRate);
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.number(), static_cast<int>(FailureNumber::SoundFile)) << name;
+            EXPECT_NE(failure.description().find(name), std::string::npos) << name;
+        }
+        const std::string named = file.parent_path() == corpus ? name : "mono16-44100.wav";
+        EXPECT_TRUE(std::regex_match(named, std::regex(read + "[-.].*"))) << name << ": " << read;
+    }
+    EXPECT_GT(files.size(), 30u);
 }
 
 }  // namespace
