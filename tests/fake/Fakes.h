@@ -46,7 +46,7 @@ struct FakeTimers : TimerFactory, Recorder {
         void switchOn() override {
             owner.t.record("timer " + name + " on");
             if (!on) {  // a timer already counting keeps its time
-                on = waiting = true;
+                on = true;
                 due = std::pair(owner.now + interval, ++owner.switches);
             }
         }
@@ -59,8 +59,8 @@ struct FakeTimers : TimerFactory, Recorder {
         std::string name;
         std::int64_t interval;
         std::function<void()> onTick;
-        bool on = false, waiting = false;  // one tick per switching on
-        std::pair<std::int64_t, std::int64_t> due;
+        bool on = false;
+        std::pair<std::int64_t, std::int64_t> due;  // when, and the order of switching on
     };
 
     std::unique_ptr<OneShotTimer> createTimer(std::string_view name,
@@ -74,8 +74,7 @@ struct FakeTimers : TimerFactory, Recorder {
         const std::int64_t until = now + ms;
         for (Timer* next = nextDue(); deliver && !ended && next && next->due.first <= until;
              next = nextDue()) {
-            now = std::max(now, next->due.first);
-            next->waiting = false;
+            now = std::max(now, std::exchange(next->due.first, kNever));  // once a switching on
             t.record("timer " + next->name + " tick");
             next->onTick();
         }
@@ -84,11 +83,12 @@ struct FakeTimers : TimerFactory, Recorder {
     Timer* nextDue() const {
         Timer* next = nullptr;
         for (Timer* timer : timers) {
-            next = timer->on && timer->waiting && (!next || timer->due < next->due) ? timer : next;
+            next = timer->on && (!next || timer->due < next->due) ? timer : next;
         }
         return next;
     }
 
+    static constexpr std::int64_t kNever = INT64_MAX;
     std::vector<Timer*> timers;
     std::int64_t now = 0, switches = 0;
     bool ended = false;
@@ -217,12 +217,11 @@ struct FakeBoxes : MessageBoxes, Recorder {
     using Recorder::Recorder;
     int show(std::string_view text, int style, std::string_view title) override {
         t.record("box " + std::to_string(style) + " " + quoted(title) + " " + quoted(text));
-        int answer = (style & 0xF) == MsgBoxStyle::YesNo ? MsgBoxAnswer::No : MsgBoxAnswer::Ok;
+        const bool question = (style & 0xF) == MsgBoxStyle::YesNo;
+        int answer = !question ? MsgBoxAnswer::Ok : answerer ? answerer(text) : MsgBoxAnswer::No;
         if (!answers.empty()) {
             answer = answers.front();
             answers.pop_front();
-        } else if (answerer && answer == MsgBoxAnswer::No) {
-            answer = answerer(text);
         }
         t.record("answer " + std::to_string(answer));
         return answer;

@@ -16,52 +16,44 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A speech-dispatcher of the test's own that takes 0.4 s to say each text and records what
-// it is asked to say; killed by its pid at the end.
-class Speechd : public ::testing::Test {
-  protected:
-    void SetUp() override {
-        const std::string start = std::string(MARIVOX_SOURCE_DIR) +
-                                  "/tests/e2e/speechd/start-private-speechd " + dir.string() +
-                                  " 0.4";
-        FILE* out = ::popen(start.c_str(), "r");
-        char line[4096];
-        while (out != nullptr && std::fgets(line, sizeof line, out) != nullptr) {
-            const std::string text(line, std::strcspn(line, "\n"));
-            if (text.starts_with("SPEECHD_ADDRESS=")) {
-                ::setenv("SPEECHD_ADDRESS", text.substr(16).c_str(), 1);
-            }
-            pid = text.starts_with("PID=") ? std::stoi(text.substr(4)) : pid;
+// Against a speech-dispatcher of the test's own that takes 0.4 s to say each text and logs
+// what it is asked to say. Texts arrive whole, blanks and all; and each stop cuts off what
+// is queued, the second as the first: a key stops speech twice before speaking, and
+// whatever was said since the last stop must be silenced. Of the texts before a stop, only
+// the first may have begun.
+TEST(Speechd, TextsArriveWholeAndEveryStopDropsWhatIsQueued) {
+    const fs::path dir =
+        fs::temp_directory_path() / ("marivox-speechd-" + std::to_string(getpid()));
+    const std::string start = MARIVOX_SOURCE_DIR "/tests/e2e/speechd/start-private-speechd ";
+    FILE* out = ::popen((start + dir.string() + " 0.4").c_str(), "r");
+    int pid = 0;
+    for (char line[4096]; out != nullptr && std::fgets(line, sizeof line, out) != nullptr;) {
+        const std::string text(line, std::strcspn(line, "\n"));
+        if (text.starts_with("SPEECHD_ADDRESS=")) {
+            ::setenv("SPEECHD_ADDRESS", text.substr(16).c_str(), 1);
         }
-        ASSERT_TRUE(out != nullptr && ::pclose(out) == 0 && pid > 0);
+        pid = text.starts_with("PID=") ? std::stoi(text.substr(4)) : pid;
     }
-    void TearDown() override {
+    ASSERT_TRUE(out != nullptr && ::pclose(out) == 0 && pid > 0);
+    const std::shared_ptr<void> stop(nullptr, [&](void*) {
         ::kill(pid, SIGKILL);
         fs::remove_all(dir);
-    }
-    // What has been said once `last` has, or after ten seconds.
-    std::vector<std::string> spokenUntil(const std::string& last) const {
+    });
+    // What has been said once `last` has, or after ten seconds; each log line "<time>|<text>|".
+    const auto spokenUntil = [&](const std::string& last) {
         std::vector<std::string> texts;
         for (int wait = 0; wait < 500 && (texts.empty() || texts.back() != last); ++wait) {
             std::this_thread::sleep_for(std::chrono::milliseconds(20));
             std::ifstream log(dir / "spoken.log", std::ios::binary);
             texts.clear();
             for (std::string entry; std::getline(log, entry);) {
-                const auto bar = entry.find('|');  // "<time>|<text>|"
-                texts.push_back(entry.substr(bar + 1, entry.size() - bar - 2));
+                texts.push_back(
+                    entry.substr(entry.find('|') + 1, entry.size() - entry.find('|') - 2));
             }
         }
         return texts;
-    }
+    };
 
-    fs::path dir = fs::temp_directory_path() / ("marivox-speechd-" + std::to_string(::getpid()));
-    int pid = 0;
-};
-
-// Texts arrive whole, blanks and all; and each stop cuts off what is queued, the second as
-// the first: a key stops speech twice before speaking, and whatever was said since the last
-// stop must be silenced. Of the texts before a stop, only the first may have begun.
-TEST_F(Speechd, TextsArriveWholeAndEveryStopDropsWhatIsQueued) {
     speechd::SpeechdJawsApi jaws;
     std::vector<std::string> spoken, after;
     for (const std::string round : {"first", "second"}) {
