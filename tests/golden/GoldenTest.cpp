@@ -250,19 +250,6 @@ TEST_P(Golden, PlaysAsStored) {
 INSTANTIATE_TEST_SUITE_P(Scenes, Golden, ::testing::ValuesIn(sceneFiles()),
                          [](const auto& info) { return info.param; });
 
-// The failure table: a scene for every guarded procedure, named after it.
-TEST(FailureTable, HasASceneForEveryGuardedProcedure) {
-    std::ifstream script(kFolder / "failures.scene");
-    std::set<std::string> titles;
-    for (std::string line; std::getline(script, line);) {
-        titles.insert(line.starts_with("== ") ? line.substr(3) : "");
-    }
-    for (int p = 0; p <= static_cast<int>(Procedure::RunHelp); ++p) {
-        EXPECT_EQ(titles.erase(procedureKey(p)), 1u) << procedureKey(p);
-    }
-    EXPECT_EQ(titles, std::set<std::string>{""});
-}
-
 // Random play against the invariants of the whole game state.
 
 using Lines = std::vector<std::string>;

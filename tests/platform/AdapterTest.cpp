@@ -12,13 +12,17 @@
 #include "fake/Fakes.h"
 #include "platform/audio/StreamWavPlayer.h"
 #include "platform/audio/WavFile.h"
+#include "platform/qt/Desktop.h"
+#include "platform/qt/GameWindowQt.h"
 #include "platform/qt/GridWidget.h"
+#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/QtTimers.h"
 #include "speech/SoundFiles.h"
 
 // Contracts: the same checks on each fake and on the adapter it stands for, so the fakes the
-// game's tests run on cannot drift from the real thing. Then the sound adapters on their own.
+// game's tests run on cannot drift from the real thing. Then the sound adapters and the game
+// window on their own.
 namespace marivox {
 namespace {
 
@@ -26,33 +30,21 @@ namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
 // `hold` lets time pass with the event loop held, as a blocking call does; `deliver` lets
-// the loop run what has fallen due.
+// the loop run what has fallen due. A timer switched on while it counts keeps its time, and
+// ticks once for each switching on, never after being switched off.
 void checkTimers(TimerFactory& timers, const std::function<void(std::chrono::milliseconds)>& hold,
                  const std::function<void()>& deliver) {
     int ticks = 0;
     const auto timer = timers.createTimer("tmrTimer1", 300ms, [&] { ++ticks; });
-    const auto expect = [&](int wanted, const char* why) {
-        deliver();
-        EXPECT_EQ(ticks, wanted) << why;
-    };
-    timer->switchOn();
-    expect(0, "it ticked before its interval");
-    hold(150ms);
-    timer->switchOn();
-    hold(250ms);
-    expect(1, "switching on a timer that counts restarted it");
-    EXPECT_TRUE(timer->isOn());
-    hold(700ms);
-    expect(1, "it ticked twice for one switching on");
-    timer->switchOff();
-    timer->switchOn();
-    hold(400ms);
-    expect(2, "switched off and on again, it did not tick");
-    timer->switchOff();
-    timer->switchOn();
-    timer->switchOff();
-    hold(400ms);
-    expect(2, "it ticked after it was switched off");
+    std::string seen;
+    for (const std::string step : {"on", "=", "150", "on", "250", "=", "700", "=", "off", "on",
+                                   "400", "=", "off", "on", "off", "400", "="}) {
+        step == "on" ? timer->switchOn() : step == "off" ? timer->switchOff() : void();
+        std::isdigit(step[0]) ? hold(std::chrono::milliseconds(std::stoi(step))) : void();
+        seen += step == "=" ? (deliver(), std::to_string(ticks)) : "";
+    }
+    EXPECT_EQ(seen, "01122");
+    EXPECT_FALSE(timer->isOn());
 }
 
 TEST(TimerContract, Fake) {
@@ -158,12 +150,12 @@ std::string soundFile(std::string_view sound) {
 }
 
 using Samples = std::vector<std::int16_t>;
-using Heard = std::pair<std::mutex, std::vector<Samples>>;  // each connection's samples
+using Played = std::pair<std::mutex, std::vector<Samples>>;  // each connection's samples
 
 // A sound device in memory; what it heard is shared, as the player's worker may outlive
 // the test.
 struct Device : audio::AudioStream {
-    explicit Device(std::shared_ptr<Heard> h) : heard(std::move(h)) {}
+    explicit Device(std::shared_ptr<Played> h) : heard(std::move(h)) {}
     bool write(std::span<const std::int16_t> samples) override {
         std::lock_guard lock(heard->first);
         heard->second.back().insert(heard->second.back().end(), samples.begin(), samples.end());
@@ -171,13 +163,13 @@ struct Device : audio::AudioStream {
     }
     bool endOfSounds() override { return true; }
     bool drain() override { return true; }
-    std::shared_ptr<Heard> heard;
+    std::shared_ptr<Played> heard;
 };
 
 // Sounds asked for one after another are heard whole, in order and back to back, however
 // their lengths fall against the player's chunks.
 TEST(Player, PlaysEachSoundWholeInOrderWithoutAGap) {
-    auto heard = std::make_shared<Heard>();
+    auto heard = std::make_shared<Played>();
     audio::StreamWavPlayer player([heard] {
         std::lock_guard lock(heard->first);
         heard->second.emplace_back();
@@ -224,5 +216,91 @@ TEST(WavFiles, ReadAsTheirNamesSayAndDamagedOnesAreRefused) {
     EXPECT_GT(files.size(), 30u);
 }
 
+using Heard = std::vector<std::string>;
+
+// Hears the window's events; `failing`, each one fails as no procedure of the game would.
+struct Screen : GameScreenEvents, GridEvents {
+    void hear(const std::string& what) {
+        heard.push_back(what);
+        failing ? throw std::logic_error(what) : void();
+    }
+    void Form_Load() override {}
+    void Form_Unload(std::int16_t&) override {}
+    void Form_KeyDown(std::int16_t key, std::int16_t shift) override {
+        hear("key " + std::to_string(key) + " " + std::to_string(shift));
+    }
+    void mnuGameNew_Click() override { hear("mnuGameNew"); }
+    void mnuGameReader_Click() override {}
+    void mnuGameExit_Click() override {}
+    void mnuOptionsStatus_Click() override {}
+    void mnuOptionsShoot_Click() override {}
+    void mnuHelpContents_Click() override {}
+    void mnuHelpAbout_Click() override {}
+    void helpKey() override { hear("help"); }
+    void onRowColChange() override { hear("move"); }
+    void onClick() override {}
+    Heard heard;
+    bool failing = false;
+};
+
+// The window hears each key first, as the game's key handler; then the board takes it.
+// Keypad Enter fires like Enter, F1 also asks for the help, Ctrl+N is New Game, and no
+// letter makes the cursor jump to a cell showing it. A failure escaping an event, from a key
+// or a timer, is told where it surfaced, and the event loop goes on.
+TEST(Desktop, KeysReachTheKeyHandlerFirstThenTheBoardAndFailuresAreTold) {
+    qt::QtApplication application;
+    qt::GameWindowQt window{application};
+    Screen screen;
+    window.load(screen);
+    window.board().setListener(&screen);
+    window.grid().setRows(10);
+    window.grid().setCols(10);
+    window.grid().setTextMatrix(5, 5, "M");
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, Heard> keys[] = {
+        {Qt::Key_Return, {}, {"key 13 0"}},
+        {Qt::Key_Enter, Qt::KeypadModifier, {"key 13 0"}},
+        {Qt::Key_F2, Qt::ShiftModifier, {"key 16 1", "key 113 1"}},
+        {Qt::Key_Down, {}, {"key 40 0", "move"}},
+        {Qt::Key_M, {}, {"key 77 0"}},
+        {Qt::Key_F1, {}, {"key 112 0", "help"}},
+        {Qt::Key_N, Qt::ControlModifier, {"key 17 2", "mnuGameNew"}},
+    };
+    for (const auto& [key, modifiers, expected] : keys) {
+        screen.heard.clear();
+        QTest::keyClick(&window.board(), key, modifiers);
+        EXPECT_EQ(screen.heard, expected) << QKeySequence(key).toString().toStdString();
+    }
+    EXPECT_EQ(window.grid().row() * 10 + window.grid().col(), 21);
+
+    auto* desktop = dynamic_cast<qt::Desktop*>(QCoreApplication::instance());
+    Heard told;
+    desktop->setEscapedFailureHandler([&](std::string_view where, const std::exception& e) {
+        told.push_back(std::string(e.what()) + " in " + std::string(where));
+    });
+    screen.failing = true;
+    QTest::keyClick(&window.board(), Qt::Key_Down);
+    qt::QtTimerFactory timers;
+    const auto timer = timers.createTimer("tmrTimer1", std::chrono::milliseconds(1),
+                                          [] { throw std::logic_error("timer"); });
+    timer->switchOn();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told.size() == 2; }, 5000));
+    desktop->setEscapedFailureHandler({});
+    EXPECT_EQ(told, (Heard{"key 40 0 in flex", "timer in tmrTimer1"}));
+}
+
 }  // namespace
 }  // namespace marivox
+
+// The adapter tests run inside the game's own application object, on Qt's offscreen
+// platform unless the environment names another.
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    marivox::qt::Desktop application(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
