@@ -8,16 +8,17 @@
 
 namespace marivox::fake {
 
-// Makes a guarded procedure fail as it begins, on its n-th entry: for the procedures that
-// call no port of their own through which a failure could come.
+// Lets a failure be armed at a guarded procedure as it begins (`enter <name>`, written down
+// only if it fails), for the procedures that call no port through which one could come.
 struct FaultPlan : FaultInjector {
-    void enter(Procedure procedure) override {
-        if (armed.contains(procedure) && --armed[procedure] == 0) {
-            armed.erase(procedure);
-            throw Failure(1234, "Injected failure");
-        }
+    explicit FaultPlan(Transcript& transcript) : t(transcript) {}
+    void enter(Procedure p) override {
+        const std::string name(procedureInfo(p).name);
+        t.record(std::string("enter ") +
+                     (p == Procedure::frmReader_Form_Unload ? "frmReader." : "") + name,
+                 false);
     }
-    std::map<Procedure, int> armed;  // entries left until each failure
+    Transcript& t;
 };
 
 // The whole system over the fakes, in virtual time, with "JFW" the stored choice.
@@ -48,7 +49,7 @@ struct Rig {
     FakeReaderDialog dialog{t};
     FakeAboutBox about{t};
     FakeClock clock;
-    FaultPlan faults;
+    FaultPlan faults{t};
     System system;
 };
 

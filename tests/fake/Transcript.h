@@ -19,8 +19,7 @@ struct Transcript {
         int remaining;
         std::int32_t number;  // 0: a plain standard exception, as a fault of an adapter's own
     };
-    // `kept` false: only checked for an armed failure, not written down (calls too many to
-    // read, such as each cell's colours).
+    // `kept` false: only checked for an armed failure, as calls too many to read.
     void record(const std::string& line, bool kept = true) {
         for (auto it = armed.begin(); it != armed.end(); ++it) {
             if (line.starts_with(it->prefix) && --it->remaining == 0) {
@@ -31,9 +30,7 @@ struct Transcript {
                             : throw Failure(number, "Injected failure");
             }
         }
-        if (kept) {
-            lines.push_back(line);
-        }
+        kept ? lines.push_back(line) : void();
     }
     std::vector<std::string> lines;
     std::vector<Armed> armed;  // failures not met yet

@@ -60,16 +60,37 @@ TEST(TimerContract, Qt) {
         timers, [](auto ms) { std::this_thread::sleep_for(ms); }, [] { QTest::qWait(20); });
 }
 
-struct Listener : GridEvents {
-    void onRowColChange() override { heard += "move "; }
-    void onClick() override { heard += "click "; }
-    std::string heard;
+using Heard = std::vector<std::string>;
+
+// Hears the window's events; `failing`, each one fails as no procedure of the game would.
+struct Screen : GameScreenEvents, GridEvents {
+    void hear(const std::string& what) {
+        heard.push_back(what);
+        failing ? throw std::logic_error(what) : void();
+    }
+    void Form_Load() override {}
+    void Form_Unload(std::int16_t&) override {}
+    void Form_KeyDown(std::int16_t key, std::int16_t shift) override {
+        hear("key " + std::to_string(key) + " " + std::to_string(shift));
+    }
+    void mnuGameNew_Click() override { hear("mnuGameNew"); }
+    void mnuGameReader_Click() override {}
+    void mnuGameExit_Click() override {}
+    void mnuOptionsStatus_Click() override {}
+    void mnuOptionsShoot_Click() override {}
+    void mnuHelpContents_Click() override {}
+    void mnuHelpAbout_Click() override {}
+    void helpKey() override { hear("help"); }
+    void onRowColChange() override { hear("move"); }
+    void onClick() override { hear("click"); }
+    Heard heard;
+    bool failing = false;
 };
 
 // `click` is the player's click on a playing cell; `name` what assistive technology hears.
 void checkGrid(GridControl& grid, const std::function<void(int, int)>& click,
                const std::function<std::string(int, int)>& name) {
-    Listener listener;
+    Screen listener;
     grid.setRows(10);
     grid.setCols(10);
     grid.setListener(&listener);
@@ -94,7 +115,7 @@ void checkGrid(GridControl& grid, const std::function<void(int, int)>& click,
     }
     EXPECT_THROW(grid.textMatrix(10, 1), Failure);
     EXPECT_THROW(grid.setTextMatrix(1, 10, "M"), Failure);
-    EXPECT_EQ(listener.heard, "move move move click ");
+    EXPECT_EQ(listener.heard, (Heard{"move", "move", "move", "click"}));
 }
 
 TEST(GridContract, Fake) {
@@ -215,33 +236,6 @@ TEST(WavFiles, ReadAsTheirNamesSayAndDamagedOnesAreRefused) {
     }
     EXPECT_GT(files.size(), 30u);
 }
-
-using Heard = std::vector<std::string>;
-
-// Hears the window's events; `failing`, each one fails as no procedure of the game would.
-struct Screen : GameScreenEvents, GridEvents {
-    void hear(const std::string& what) {
-        heard.push_back(what);
-        failing ? throw std::logic_error(what) : void();
-    }
-    void Form_Load() override {}
-    void Form_Unload(std::int16_t&) override {}
-    void Form_KeyDown(std::int16_t key, std::int16_t shift) override {
-        hear("key " + std::to_string(key) + " " + std::to_string(shift));
-    }
-    void mnuGameNew_Click() override { hear("mnuGameNew"); }
-    void mnuGameReader_Click() override {}
-    void mnuGameExit_Click() override {}
-    void mnuOptionsStatus_Click() override {}
-    void mnuOptionsShoot_Click() override {}
-    void mnuHelpContents_Click() override {}
-    void mnuHelpAbout_Click() override {}
-    void helpKey() override { hear("help"); }
-    void onRowColChange() override { hear("move"); }
-    void onClick() override {}
-    Heard heard;
-    bool failing = false;
-};
 
 // The window hears each key first, as the game's key handler; then the board takes it.
 // Keypad Enter fires like Enter, F1 also asks for the help, Ctrl+N is New Game, and no
