@@ -190,13 +190,9 @@ struct FakeWindow : GameWindow, Recorder {
         events->Form_KeyDown(key, 0);
         const int down = key == KeyCode::Down ? 1 : key == KeyCode::Up ? -1 : 0;
         const int right = key == KeyCode::Right ? 1 : key == KeyCode::Left ? -1 : 0;
-        if (down != 0 || right != 0) {
-            board.playerMovesTo(std::clamp(board.row() + down, 1, 9),
-                                std::clamp(board.col() + right, 1, 9));
-        }
-        if (key == KeyCode::F1) {
-            events->helpKey();
-        }
+        board.playerMovesTo(std::clamp(board.row() + down, 1, 9),
+                            std::clamp(board.col() + right, 1, 9));  // no event if it stays
+        key == KeyCode::F1 ? events->helpKey() : void();
     }
     FakeGrid board;
     FakeTimers& timers;

@@ -10,15 +10,12 @@ namespace marivox::fake {
 
 // Lets a failure be armed at a guarded procedure as it begins (`enter <name>`, written down
 // only if it fails), for the procedures that call no port through which one could come.
-struct FaultPlan : FaultInjector {
-    explicit FaultPlan(Transcript& transcript) : t(transcript) {}
+struct FaultPlan : FaultInjector, Recorder {
+    using Recorder::Recorder;
     void enter(Procedure p) override {
-        const std::string name(procedureInfo(p).name);
-        t.record(std::string("enter ") +
-                     (p == Procedure::frmReader_Form_Unload ? "frmReader." : "") + name,
-                 false);
+        const std::string unit = p == Procedure::frmReader_Form_Unload ? "frmReader." : "";
+        t.record("enter " + unit + std::string(procedureInfo(p).name), false);
     }
-    Transcript& t;
 };
 
 // The whole system over the fakes, in virtual time, with "JFW" the stored choice.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <QTest>
 #include <filesystem>
 #include <mutex>
@@ -16,13 +15,13 @@
 #include "platform/qt/GameWindowQt.h"
 #include "platform/qt/GridWidget.h"
 #include "platform/qt/QtApplication.h"
-#include "platform/qt/QtSettingsStore.h"
 #include "platform/qt/QtTimers.h"
 #include "speech/SoundFiles.h"
 
 // Contracts: the same checks on each fake and on the adapter it stands for, so the fakes the
-// game's tests run on cannot drift from the real thing. Then the sound adapters and the game
-// window on their own.
+// game's tests run on cannot drift from the real thing (the settings store, a map in its
+// fake, is read and written for real by the e2e scenarios). Then the sound adapters and the
+// game window on their own.
 namespace marivox {
 namespace {
 
@@ -141,29 +140,6 @@ TEST(GridContract, Qt) {
         [&](int row, int col) {
             return cell(row, col)->data(Qt::AccessibleTextRole).toString().toStdString();
         });
-}
-
-// A value reads back exactly, an empty one too (a choice of nothing, not nothing stored),
-// and a missing one as the default.
-void checkSettings(SettingsStore& store) {
-    EXPECT_EQ(store.GetSetting("Marivox", "StartUp", "Reader", "None"), "None");
-    for (const char* value : {"JFW", " WE ", "", "we;=\"[x]\" \xc3\xa9"}) {
-        store.SaveSetting("Marivox", "StartUp", "Reader", value);
-        EXPECT_EQ(store.GetSetting("Marivox", "StartUp", "Reader", "None"), value);
-    }
-}
-
-TEST(SettingsContract, Fake) {
-    fake::Transcript t;
-    fake::FakeSettings store(t);
-    checkSettings(store);
-}
-
-TEST(SettingsContract, Qt) {
-    QTemporaryDir home;
-    qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-    qt::QtSettingsStore store;
-    checkSettings(store);
 }
 
 std::string soundFile(std::string_view sound) {

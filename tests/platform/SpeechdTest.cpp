@@ -26,15 +26,12 @@ TEST(Speechd, TextsArriveWholeAndEveryStopDropsWhatIsQueued) {
         fs::temp_directory_path() / ("marivox-speechd-" + std::to_string(getpid()));
     const std::string start = MARIVOX_SOURCE_DIR "/tests/e2e/speechd/start-private-speechd ";
     FILE* out = ::popen((start + dir.string() + " 0.4").c_str(), "r");
-    int pid = 0;
     for (char line[4096]; out != nullptr && std::fgets(line, sizeof line, out) != nullptr;) {
-        const std::string text(line, std::strcspn(line, "\n"));
-        if (text.starts_with("SPEECHD_ADDRESS=")) {
-            ::setenv("SPEECHD_ADDRESS", text.substr(16).c_str(), 1);
-        }
-        pid = text.starts_with("PID=") ? std::stoi(text.substr(4)) : pid;
+        line[std::strcspn(line, "\n")] = '\0';
+        ::putenv(::strdup(line));  // SPEECHD_ADDRESS=<address>, PID=<pid>
     }
-    ASSERT_TRUE(out != nullptr && ::pclose(out) == 0 && pid > 0);
+    ASSERT_TRUE(out != nullptr && ::pclose(out) == 0 && std::getenv("PID") != nullptr);
+    const int pid = std::stoi(std::getenv("PID"));
     const std::shared_ptr<void> stop(nullptr, [&](void*) {
         ::kill(pid, SIGKILL);
         fs::remove_all(dir);
@@ -46,9 +43,8 @@ TEST(Speechd, TextsArriveWholeAndEveryStopDropsWhatIsQueued) {
             std::this_thread::sleep_for(std::chrono::milliseconds(20));
             std::ifstream log(dir / "spoken.log", std::ios::binary);
             texts.clear();
-            for (std::string entry; std::getline(log, entry);) {
-                texts.push_back(
-                    entry.substr(entry.find('|') + 1, entry.size() - entry.find('|') - 2));
+            for (std::string e; std::getline(log, e);) {
+                texts.push_back(e.substr(e.find('|') + 1, e.size() - e.find('|') - 2));
             }
         }
         return texts;
