@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <exception>
 #include <functional>
+#include <stdexcept>
 #include <string_view>
 
 namespace marivox::qt {
@@ -31,5 +32,19 @@ class Desktop : public QApplication {
   private:
     EscapedFailureHandler handler_;
 };
+
+// Runs a call from the toolkit into the game. A failure is told here rather than left to
+// unwind through the toolkit's frames, which are built without cleanup for exceptions and
+// would leak what they hold; the application object stays the last line of defence.
+template <typename Call>
+void guarded(std::string_view where, Call&& call) noexcept {
+    try {
+        call();
+    } catch (const std::exception& failure) {
+        Desktop::escaped(where, failure);
+    } catch (...) {
+        Desktop::escaped(where, std::runtime_error("An unknown failure"));
+    }
+}
 
 }  // namespace marivox::qt

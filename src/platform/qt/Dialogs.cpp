@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QPushButton>
 
+#include "platform/qt/Desktop.h"
 #include "platform/qt/ProgramIcon.h"
 #include "platform/qt/Twips.h"
 #include "support/Failure.h"
@@ -42,7 +43,8 @@ class ReaderDialogQt::Form : public QDialog {
         ok->setGeometry(twipsRect(1000, 3000, 1000, 300));
         ok->setDefault(true);
         setTabOrder(list, ok);
-        connect(ok, &QPushButton::clicked, this, [this] { events_.btnOK_Click(); });
+        connect(ok, &QPushButton::clicked, this,
+                [this] { guarded("frmReader", [this] { events_.btnOK_Click(); }); });
         list->setFocus();
     }
 
@@ -54,7 +56,7 @@ class ReaderDialogQt::Form : public QDialog {
   protected:
     void closeEvent(QCloseEvent* event) override {
         std::int16_t cancel = 0;
-        events_.Form_Unload(cancel);
+        guarded("frmReader", [&] { events_.Form_Unload(cancel); });
         if (cancel != 0) {
             event->ignore();
             return;
@@ -140,12 +142,15 @@ class AboutBoxQt::Form : public QDialog {
         ok->setObjectName("cmdOK");
         ok->setGeometry(twipsRect(4245, 2625, 1467, 345));
         ok->setDefault(true);
-        connect(ok, &QPushButton::clicked, this, [this] { events_.cmdOK_Click(); });
+        connect(ok, &QPushButton::clicked, this,
+                [this] { guarded("frmAbout", [this] { events_.cmdOK_Click(); }); });
         ok->setFocus();
     }
 
     // OK is also the cancel button: Escape is a click on it.
-    void reject() override { events_.cmdOK_Click(); }
+    void reject() override {
+        guarded("frmAbout", [this] { events_.cmdOK_Click(); });
+    }
 
     QLabel* title;
     QLabel* version;

@@ -7,9 +7,11 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <string>
 
 #include "platform/KeyCodes.h"
 #include "platform/probe/LatencyLog.h"
+#include "platform/qt/Desktop.h"
 #include "platform/qt/KeyMapping.h"
 #include "platform/qt/ProgramIcon.h"
 #include "platform/qt/QtApplication.h"
@@ -91,7 +93,7 @@ void GameWindowQt::buildMenus() {
             // The menu tree is static, so the item outlives every connection to it.
             connect(action, &QAction::triggered, this, [this, &item] {
                 if (events_ != nullptr) {
-                    (events_->*item.handler)();
+                    guarded(item.name, [this, &item] { (events_->*item.handler)(); });
                 }
             });
         }
@@ -143,9 +145,10 @@ bool GameWindowQt::eventFilter(QObject* watched, QEvent* event) {
     }
     const auto& key = static_cast<const QKeyEvent&>(*event);
     const std::int16_t code = gameKeyCode(key);
-    events_->Form_KeyDown(code, gameShiftState(key.modifiers()));
+    const std::string where = watched->objectName().toStdString();
+    guarded(where, [&] { events_->Form_KeyDown(code, gameShiftState(key.modifiers())); });
     if (code == KeyCode::F1) {
-        events_->helpKey();
+        guarded(where, [this] { events_->helpKey(); });
         return true;
     }
     return false;
@@ -157,7 +160,7 @@ void GameWindowQt::closeEvent(QCloseEvent* event) {
         return;
     }
     std::int16_t cancel = 0;
-    events_->Form_Unload(cancel);
+    guarded("GameScreen", [&] { events_->Form_Unload(cancel); });
     if (cancel != 0 && !application_.isEnding()) {
         event->ignore();
     } else {

@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <algorithm>
 
+#include "platform/qt/Desktop.h"
 #include "platform/qt/Twips.h"
 #include "support/Failure.h"
 
@@ -46,7 +47,7 @@ GridWidget::GridWidget(QWidget* parent) : QTableWidget(parent) {
 
     connect(this, &QTableWidget::cellClicked, this, [this](int, int) {
         if (events_ != nullptr) {
-            events_->onClick();
+            guarded("flex", [this] { events_->onClick(); });
         }
     });
     reshape();

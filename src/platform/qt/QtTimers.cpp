@@ -4,6 +4,8 @@
 
 #include <QTimer>
 
+#include "platform/qt/Desktop.h"
+
 namespace marivox::qt {
 namespace {
 
@@ -18,7 +20,7 @@ class QtOneShotTimer : public OneShotTimer {
         timer_.setInterval(interval);
         QObject::connect(&timer_, &QTimer::timeout, [this] {
             if (on_) {
-                onTick_();
+                guarded(timer_.objectName().toStdString(), onTick_);
             }
         });
     }
