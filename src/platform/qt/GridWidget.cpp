@@ -57,7 +57,7 @@ void GridWidget::currentChanged(const QModelIndex& current, const QModelIndex& p
     // The game speaks the cell before the view repaints and tells the accessibility bus,
     // so the player hears it that much sooner.
     if (!quiet_ && events_ != nullptr && current.isValid() && current != previous) {
-        events_->onRowColChange();
+        guarded("flex", [this] { events_->onRowColChange(); });
     }
     QTableWidget::currentChanged(current, previous);
 }
