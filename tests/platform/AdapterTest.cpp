@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
+#include <QTimer>
 #include <filesystem>
 #include <mutex>
 #include <regex>
@@ -12,9 +13,11 @@
 #include "platform/audio/StreamWavPlayer.h"
 #include "platform/audio/WavFile.h"
 #include "platform/qt/Desktop.h"
+#include "platform/qt/Dialogs.h"
 #include "platform/qt/GameWindowQt.h"
 #include "platform/qt/GridWidget.h"
 #include "platform/qt/QtApplication.h"
+#include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtTimers.h"
 #include "speech/SoundFiles.h"
 
@@ -215,8 +218,8 @@ TEST(WavFiles, ReadAsTheirNamesSayAndDamagedOnesAreRefused) {
 
 // The window hears each key first, as the game's key handler; then the board takes it.
 // Keypad Enter fires like Enter, F1 also asks for the help, Ctrl+N is New Game, and no
-// letter makes the cursor jump to a cell showing it. A failure escaping the game from a key or
-// a timer is told where it surfaced, and the event loop goes on.
+// letter makes the cursor jump to a cell showing it. A failure escaping the game from any way
+// the toolkit calls it is told where it surfaced, and the event loop goes on.
 TEST(Desktop, KeysReachTheKeyHandlerFirstThenTheBoardAndFailuresAreTold) {
     qt::QtApplication application;
     qt::GameWindowQt window{application};
@@ -251,14 +254,35 @@ TEST(Desktop, KeysReachTheKeyHandlerFirstThenTheBoardAndFailuresAreTold) {
         told.push_back(std::string(e.what()) + " in " + std::string(where));
     });
     screen.failing = true;
-    QTest::keyClick(&window.board(), Qt::Key_M);
+    QTest::keyClick(&window.board(), Qt::Key_Down);  // the key handler, then the cursor's move
+    QTest::keyClick(&window.board(), Qt::Key_N, Qt::ControlModifier);  // and a menu command
+    // A box holds its caller in a loop of its own; a timer failing there leaves it open.
     qt::QtTimerFactory timers;
     const auto timer = timers.createTimer("tmrTimer1", std::chrono::milliseconds(1),
                                           [] { throw std::logic_error("timer"); });
     timer->switchOn();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return told.size() == 2; }, 5000));
+    QTimer::singleShot(100, [] { QApplication::activeModalWidget()->close(); });
+    qt::QtMessageBoxes().show("Question", 36, "Marivox");
+    struct : ReaderDialogEvents {
+        void Form_Load() override {}
+        void btnOK_Click() override { throw std::logic_error("dialog"); }
+        void Form_Unload(std::int16_t&) override {}
+    } reader;
+    qt::ReaderDialogQt dialog;
+    QTimer::singleShot(0, [&] {
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        dialog.current()->done(0);
+    });
+    dialog.showModal(reader);
+    // The sound output's worker thread tells the user-interface thread.
+    audio::StreamWavPlayer player(
+        []() -> std::unique_ptr<audio::AudioStream> { throw std::logic_error("sound output"); }, {},
+        [](const std::exception& e) { qt::Desktop::escapedOnAnyThread("PlaySound", e); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told.size() == 7; }, 5000));
     desktop->setEscapedFailureHandler({});
-    EXPECT_EQ(told, (Heard{"key 77 0 in flex", "timer in tmrTimer1"}));
+    EXPECT_EQ(told, (Heard{"key 40 0 in flex", "move in flex", "key 17 2 in flex",
+                           "mnuGameNew in mnuGameNew", "timer in tmrTimer1", "dialog in frmReader",
+                           "sound output in PlaySound"}));
 }
 
 }  // namespace
