@@ -79,8 +79,10 @@ class StoredChoice(GameTest):
 
     def test_cursor_moves_name_each_cell(self):
         self.start()
-        self.session.keys("Down", "Right", "Right", "Up", window=self.window)
-        self.session.wait_for_count(len(PROMPT) + 4)
+        # A key silences what is still being said, so each move is heard out before the next.
+        for count, key in enumerate(["Down", "Right", "Right", "Up"], len(PROMPT) + 1):
+            self.session.keys(key, window=self.window)
+            self.session.wait_for_count(count)
         self.assertEqual(self.session.texts()[len(PROMPT):], ["B  1", "B  2", "B  3", "A  3"])
 
     def test_status_at_the_start_is_two_counts_of_nothing(self):
