@@ -38,9 +38,19 @@ void ScreenReaderChoice::createSpeechObjectIfChosen() {
     }
 }
 
+namespace {
+
+// An empty choice, stored by an older run whose first dialog was closed without a choice,
+// would leave the game silent for good; it is asked again like no choice at all.
+bool noChoice(std::string_view reader) {
+    return reader == kNoReader || trimmedBlanks(reader).empty();
+}
+
+}  // namespace
+
 void ScreenReaderChoice::GetScreenReader() {
     guard_.run(Procedure::GetScreenReader, [&] {
-        if (readSetting() == kNoReader) {
+        if (noChoice(readSetting())) {
             dialog_.showModal(*this);
             SaveScreenReader();
         } else {
@@ -88,7 +98,8 @@ void ScreenReaderChoice::btnOK_Click() {
 
 void ScreenReaderChoice::Form_Unload(std::int16_t& cancel) {
     guard_.run(Procedure::frmReader_Form_Unload, [&] {
-        if (isChosen(reader_, kNoReader)) {
+        // Closing the first dialog without a choice must not lose speech with one key.
+        if (noChoice(trimmedBlanks(reader_.ScreenReader))) {
             boxes_.show(kMustChoose, MsgBoxStyle::OkOnly + MsgBoxStyle::Information,
                         kDialogCaption);
             cancel = kTrue;
