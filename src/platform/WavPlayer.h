@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 namespace marivox {
@@ -23,6 +24,9 @@ class WavPlayer {
     virtual std::int32_t status() = 0;
     // Ends the request; an accepted sound plays on to its end.
     virtual void closeSound() = 0;
+    // Calls `then` on the user-interface thread once every sound accepted so far has begun
+    // to play, or been given up; at once when none is waiting or no output exists.
+    virtual void whenAcceptedSoundsHeard(std::function<void()> then) = 0;
 };
 
 }  // namespace marivox

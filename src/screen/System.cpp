@@ -12,12 +12,13 @@ System::System(const PlatformPorts& p, std::uint64_t seed)
       random(generator, guard),
       speech(reader, p.jaws, guard),
       sounds(p.wavPlayer, p.application, p.sleeper, guard),
+      heard(speech, sounds, p.wavPlayer, p.timers),
       readerChoice(reader, p.settings, p.automation, p.readerDialog, p.boxes, guard),
       help(p.application, p.shell, p.boxes, guard),
       about(p.aboutBox, p.application),
-      screen({state, guard, speech, sounds, random, reader, readerChoice, help, about, p.window,
+      screen({state, guard, heard, heard, random, reader, readerChoice, help, about, p.window,
               p.timers, p.boxes, p.application}) {
-    reports.speakThrough([this](std::string_view text) { speech.Speak(text); });
+    reports.speakThrough([this](std::string_view text) { heard.Speak(text); });
 }
 
 void System::Main() {

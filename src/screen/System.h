@@ -11,6 +11,7 @@
 #include "speech/ScreenReaderChoice.h"
 #include "speech/ScreenReaderSpeech.h"
 #include "speech/ScreenReaderState.h"
+#include "speech/SpeechAfterSounds.h"
 #include "speech/WavSounds.h"
 #include "support/ErrorReports.h"
 #include "support/Guard.h"
@@ -62,6 +63,7 @@ class System {
     RandomNumbers random;
     ScreenReaderSpeech speech;
     WavSounds sounds;
+    SpeechAfterSounds heard;  // the speech and sounds the rules use
     ScreenReaderChoice readerChoice;
     HelpCommands help;
     AboutForm about;

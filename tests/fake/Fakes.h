@@ -340,6 +340,18 @@ struct FakeWavPlayer : WavPlayer, Recorder {
                      std::to_string(waited) + " ms busy");
         }
     }
+    // Sounds begin at once unless a scene holds them back (`sounds late`) until `sounds begin`.
+    void whenAcceptedSoundsHeard(std::function<void()> then) override {
+        late ? waiting.push_back(std::move(then)) : then();
+    }
+    void begin() {
+        t.record("sounds begin");
+        for (auto& then : std::exchange(waiting, {})) {
+            then();
+        }
+    }
+    bool late = false;
+    std::vector<std::function<void()>> waiting;
     FakeSleeper& sleeper;
     std::chrono::milliseconds busyUntil{0}, opened{0};
     std::int32_t busy = 0;

@@ -112,6 +112,8 @@ struct Scene {
             (r.system.screen.*kMenu.at(rest))();
         } else if (verb == "close") {
             r.window.unload();
+        } else if (verb == "sounds") {
+            rest == "late" ? void(r.wav.late = true) : r.wav.begin();
         } else if (verb == "wait") {
             r.timers.advance(std::stoll(rest));
         } else if (verb == "answer") {

@@ -29,9 +29,11 @@ int main(int argc, char** argv) {
     qt::QtTimerFactory timers;
     qt::QtMessageBoxes boxes;
     qt::QtSettingsStore settings;
-    const auto player = pulse::makePulseWavPlayer([](const std::exception& failure) {
-        qt::Desktop::escapedOnAnyThread("PlaySound", failure);
-    });
+    const auto player = pulse::makePulseWavPlayer(
+        [](const std::exception& failure) {
+            qt::Desktop::escapedOnAnyThread("PlaySound", failure);
+        },
+        qt::Desktop::post);
     speechd::SpeechdJawsApi jaws(latency.get());
     speechd::SpeechdAutomationObjects automation(latency.get());
     qt::ReaderDialogQt readerDialog;

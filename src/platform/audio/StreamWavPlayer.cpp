@@ -8,6 +8,8 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/audio/WavFile.h"
 #include "support/Failure.h"
@@ -31,17 +33,27 @@ struct StreamWavPlayer::Shared {
     struct Queued {
         std::shared_ptr<const Samples> samples;
         std::size_t next = 0;
+        std::uint64_t number = 0;  // counts the sounds accepted
+    };
+    // Speech waiting for the sounds accepted before it, up to `number`, to begin.
+    struct Notice {
+        std::uint64_t number;
+        std::function<void()> then;
     };
 
     AudioConnector connector;
     PlayerLimits limits;
     FailureHandler onFailure;  // called on the worker thread
+    Poster post;
 
     std::mutex mutex;
     std::condition_variable wake;      // the worker waits on it
     std::condition_variable finishes;  // drainBeforeExit waits on it
     std::deque<Queued> queue;
     std::size_t queuedSamples = 0;
+    std::uint64_t accepted = 0;
+    std::uint64_t begun = 0;  // the last sound begun on the device or given up
+    std::vector<Notice> notices;
     // Set while the worker is inside a device call, which blocks while the device is full
     // and forever if its server hangs.
     std::optional<Clock::time_point> inDeviceSince;
@@ -53,6 +65,7 @@ struct StreamWavPlayer::Shared {
     void dropQueue() {
         queue.clear();
         queuedSamples = 0;
+        begun = accepted;  // what is given up will never begin: nobody waits for it
     }
     bool hasWork() const { return !queue.empty() || stopping || aborting; }
 };
@@ -90,6 +103,26 @@ void closeStream(StreamWavPlayer::Shared& s, Lock& lock, std::unique_ptr<AudioSt
         stream.reset();
         return 0;
     });
+}
+
+// Hands the notices whose sounds have all begun to the user-interface thread.
+void tellBegun(StreamWavPlayer::Shared& s, Lock& lock) {
+    std::vector<StreamWavPlayer::Shared::Notice> due;
+    std::erase_if(s.notices, [&](auto& notice) {
+        if (notice.number > s.begun) {
+            return false;
+        }
+        due.push_back(std::move(notice));
+        return true;
+    });
+    if (due.empty()) {
+        return;
+    }
+    lock.unlock();
+    for (auto& notice : due) {
+        s.post ? s.post(std::move(notice.then)) : notice.then();
+    }
+    lock.lock();
 }
 
 struct WorkerState {
@@ -130,11 +163,13 @@ void playUntilStopped(StreamWavPlayer::Shared& s, Lock& lock, WorkerState& w) {
         if (!w.stream) {
             // Nobody can hear it; keeping it would only play it late, out of context.
             s.dropQueue();
+            tellBegun(s, lock);
             continue;
         }
         auto& front = s.queue.front();
         const auto samples = front.samples;
         const std::size_t start = front.next;
+        const std::uint64_t number = front.number;
         const std::size_t count = std::min(kChunkSamples, samples->size() - start);
         front.next += count;
         s.queuedSamples -= count;
@@ -146,6 +181,10 @@ void playUntilStopped(StreamWavPlayer::Shared& s, Lock& lock, WorkerState& w) {
         });
         if (written) {
             w.soundsPending = true;
+            if (start == 0) {
+                s.begun = number;
+                tellBegun(s, lock);
+            }
         } else {
             // The server died: what waits would come out of context later, and the next
             // sound tries a fresh connection.
@@ -153,6 +192,7 @@ void playUntilStopped(StreamWavPlayer::Shared& s, Lock& lock, WorkerState& w) {
             s.dropQueue();
             w.soundsPending = false;
             w.retryAt = Clock::now();
+            tellBegun(s, lock);
         }
     }
 }
@@ -178,6 +218,7 @@ void runWorker(const std::shared_ptr<StreamWavPlayer::Shared>& shared) {
             w.soundsPending = false;
             w.retryAt = Clock::now();
             closeStream(s, lock, w.stream);
+            tellBegun(s, lock);
             if (s.onFailure) {
                 lock.unlock();
                 s.onFailure(failure);
@@ -196,11 +237,12 @@ void runWorker(const std::shared_ptr<StreamWavPlayer::Shared>& shared) {
 }  // namespace
 
 StreamWavPlayer::StreamWavPlayer(AudioConnector connector, PlayerLimits limits,
-                                 FailureHandler onFailure)
+                                 FailureHandler onFailure, Poster post)
     : shared_(std::make_shared<Shared>()) {
     shared_->connector = std::move(connector);
     shared_->limits = limits;
     shared_->onFailure = std::move(onFailure);
+    shared_->post = std::move(post);
     worker_ = std::thread(runWorker, shared_);
 }
 
@@ -239,9 +281,22 @@ void StreamWavPlayer::play(std::int32_t /*from*/, std::int32_t /*to*/, bool /*wa
         // While the worker is still connecting there is nothing to wait for: the sounds are
         // played or dropped once it knows whether there is a device.
     }
-    s.queue.push_back({current_, 0});
+    s.queue.push_back({current_, 0, ++s.accepted});
     s.queuedSamples += current_->size();
     s.wake.notify_one();
+}
+
+void StreamWavPlayer::whenAcceptedSoundsHeard(std::function<void()> then) {
+    {
+        auto& s = *shared_;
+        std::lock_guard lock(s.mutex);
+        // Without a device nothing will be heard, so nothing is waited for.
+        if (s.connected && s.begun < s.accepted && !s.stopping && !s.aborting) {
+            s.notices.push_back({s.accepted, std::move(then)});
+            return;
+        }
+    }
+    then();
 }
 
 void StreamWavPlayer::drainBeforeExit(std::chrono::milliseconds limit) {

@@ -36,9 +36,11 @@ class StreamWavPlayer final : public WavPlayer {
   public:
     // Told, on the worker thread, of a failure of the player's own while it played.
     using FailureHandler = std::function<void(const std::exception&)>;
+    // Hands a call over to the user-interface thread; without one, calls run on the worker.
+    using Poster = std::function<void(std::function<void()>)>;
 
     explicit StreamWavPlayer(AudioConnector connector, PlayerLimits limits = {},
-                             FailureHandler onFailure = {});
+                             FailureHandler onFailure = {}, Poster post = {});
     ~StreamWavPlayer() override;
     StreamWavPlayer(const StreamWavPlayer&) = delete;
     StreamWavPlayer& operator=(const StreamWavPlayer&) = delete;
@@ -47,6 +49,7 @@ class StreamWavPlayer final : public WavPlayer {
     void play(std::int32_t from, std::int32_t to, bool wait) override;
     std::int32_t status() override { return status_; }
     void closeSound() override { current_.reset(); }
+    void whenAcceptedSoundsHeard(std::function<void()> then) override;
 
     // Waits until everything queued has been heard or `limit` has passed, then stops the
     // stream; later requests are accepted and not played. For the program's close, so the

@@ -93,9 +93,9 @@ audio::AudioConnector pulseConnector() {
 }
 
 std::unique_ptr<audio::StreamWavPlayer> makePulseWavPlayer(
-    audio::StreamWavPlayer::FailureHandler onFailure) {
+    audio::StreamWavPlayer::FailureHandler onFailure, audio::StreamWavPlayer::Poster post) {
     return std::make_unique<audio::StreamWavPlayer>(pulseConnector(), audio::PlayerLimits{},
-                                                    std::move(onFailure));
+                                                    std::move(onFailure), std::move(post));
 }
 
 }  // namespace marivox::pulse

@@ -15,6 +15,7 @@ audio::AudioConnector pulseConnector();
 
 // The game's WAV player on the desktop's sound server.
 std::unique_ptr<audio::StreamWavPlayer> makePulseWavPlayer(
-    audio::StreamWavPlayer::FailureHandler onFailure = {});
+    audio::StreamWavPlayer::FailureHandler onFailure = {},
+    audio::StreamWavPlayer::Poster post = {});
 
 }  // namespace marivox::pulse

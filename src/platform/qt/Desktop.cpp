@@ -48,6 +48,15 @@ void Desktop::escaped(std::string_view where, const std::exception& failure) {
                  where.data());
 }
 
+void Desktop::post(std::function<void()> call) {
+    QCoreApplication* application = QCoreApplication::instance();
+    if (application != nullptr) {
+        QMetaObject::invokeMethod(
+            application, [call = std::move(call)] { guarded("posted call", call); },
+            Qt::QueuedConnection);
+    }
+}
+
 void Desktop::escapedOnAnyThread(std::string_view where, const std::exception& failure) {
     const auto* known = dynamic_cast<const Failure*>(&failure);
     Failure copy = known != nullptr ? *known : Failure(FailureNumber::Internal, failure.what());
