@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -22,6 +23,9 @@ class AudioStream {
     virtual bool endOfSounds() = 0;
     // Waits until everything written has been heard.
     virtual bool drain() = 0;
+    // How long until a sample written now is heard: what the device still holds, and its
+    // own delay.
+    virtual std::chrono::microseconds untilHeard() { return {}; }
 };
 
 // Opens a stream, or returns null when no device can be reached. Called on the worker

@@ -105,8 +105,10 @@ void closeStream(StreamWavPlayer::Shared& s, Lock& lock, std::unique_ptr<AudioSt
     });
 }
 
-// Hands the notices whose sounds have all begun to the user-interface thread.
-void tellBegun(StreamWavPlayer::Shared& s, Lock& lock) {
+// Hands the notices whose sounds have all begun, or will be heard in `heardIn`, to the
+// user-interface thread.
+void tellBegun(StreamWavPlayer::Shared& s, Lock& lock,
+               std::chrono::microseconds heardIn = std::chrono::microseconds{0}) {
     std::vector<StreamWavPlayer::Shared::Notice> due;
     std::erase_if(s.notices, [&](auto& notice) {
         if (notice.number > s.begun) {
@@ -120,7 +122,7 @@ void tellBegun(StreamWavPlayer::Shared& s, Lock& lock) {
     }
     lock.unlock();
     for (auto& notice : due) {
-        s.post ? s.post(std::move(notice.then)) : notice.then();
+        s.post ? s.post(heardIn, std::move(notice.then)) : notice.then();
     }
     lock.lock();
 }
@@ -176,14 +178,19 @@ void playUntilStopped(StreamWavPlayer::Shared& s, Lock& lock, WorkerState& w) {
         if (front.next == samples->size()) {
             s.queue.pop_front();
         }
+        // A sound begins when it is heard, after what the device still holds before it.
+        std::chrono::microseconds heardIn{0};
         const bool written = inDevice(s, lock, [&] {
+            if (start == 0) {
+                heardIn = w.stream->untilHeard();
+            }
             return w.stream->write(std::span<const std::int16_t>(samples->data() + start, count));
         });
         if (written) {
             w.soundsPending = true;
             if (start == 0) {
                 s.begun = number;
-                tellBegun(s, lock);
+                tellBegun(s, lock, heardIn);
             }
         } else {
             // The server died: what waits would come out of context later, and the next

@@ -36,8 +36,9 @@ class StreamWavPlayer final : public WavPlayer {
   public:
     // Told, on the worker thread, of a failure of the player's own while it played.
     using FailureHandler = std::function<void(const std::exception&)>;
-    // Hands a call over to the user-interface thread; without one, calls run on the worker.
-    using Poster = std::function<void(std::function<void()>)>;
+    // Hands a call over to the user-interface thread, to run after `delay`; without one,
+    // calls run on the worker at once.
+    using Poster = std::function<void(std::chrono::microseconds delay, std::function<void()>)>;
 
     explicit StreamWavPlayer(AudioConnector connector, PlayerLimits limits = {},
                              FailureHandler onFailure = {}, Poster post = {});

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/qt/Desktop.h"
 
+#include <QTimer>
 #include <cstdio>
 #include <stdexcept>
 #include <string>
@@ -48,13 +49,19 @@ void Desktop::escaped(std::string_view where, const std::exception& failure) {
                  where.data());
 }
 
-void Desktop::post(std::function<void()> call) {
+void Desktop::post(std::chrono::microseconds delay, std::function<void()> call) {
     QCoreApplication* application = QCoreApplication::instance();
-    if (application != nullptr) {
-        QMetaObject::invokeMethod(
-            application, [call = std::move(call)] { guarded("posted call", call); },
-            Qt::QueuedConnection);
+    if (application == nullptr) {
+        return;
     }
+    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(delay);
+    QMetaObject::invokeMethod(
+        application,
+        [application, wait, call = std::move(call)] {
+            QTimer::singleShot(wait, Qt::PreciseTimer, application,
+                               [call] { guarded("posted call", call); });
+        },
+        Qt::QueuedConnection);
 }
 
 void Desktop::escapedOnAnyThread(std::string_view where, const std::exception& failure) {

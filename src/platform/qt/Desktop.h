@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QApplication>
+#include <chrono>
 #include <exception>
 #include <functional>
 #include <stdexcept>
@@ -28,8 +29,8 @@ class Desktop : public QApplication {
     // The same from any thread: the failure is handed on to the user-interface thread,
     // where every report is made.
     static void escapedOnAnyThread(std::string_view where, const std::exception& failure);
-    // Runs `call` on the user-interface thread, from any thread, in the order posted.
-    static void post(std::function<void()> call);
+    // Runs `call` on the user-interface thread after `delay`, from any thread.
+    static void post(std::chrono::microseconds delay, std::function<void()> call);
 
   private:
     EscapedFailureHandler handler_;
