@@ -42,6 +42,11 @@ class GridControl {
     // control shows it to whoever asks.
     using CellDescriber = std::function<std::string(int row, int col, std::string_view mark)>;
     virtual void setCellDescriber(CellDescriber describer) = 0;
+    // Whether the game voices each cursor move itself at the moment. While it does, the
+    // control does not also announce moves to assistive technology, which would say every
+    // cell twice; it still tells whoever asks where the cursor is and what the cell shows.
+    using MovesVoiced = std::function<bool()>;
+    virtual void setMovesVoiced(MovesVoiced voiced) = 0;
 
     virtual int rows() const = 0;
     virtual void setRows(int rows) = 0;

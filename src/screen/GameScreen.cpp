@@ -49,6 +49,8 @@ GameScreen::GameScreen(const GameScreenServices& s)
       halShots_(s.state, s.guard, s.speech, s.sounds, targeting_) {
     flex_.setListener(this);
     flex_.setCellDescriber(&GameScreen::describeCell);
+    flex_.setMovesVoiced(
+        [&reader = s.reader] { return isChosen(reader, kJaws) || isChosen(reader, kWindowEyes); });
 }
 
 void GameScreen::Form_Load() {

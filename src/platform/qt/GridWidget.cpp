@@ -59,7 +59,22 @@ void GridWidget::currentChanged(const QModelIndex& current, const QModelIndex& p
     if (!quiet_ && events_ != nullptr && current.isValid() && current != previous) {
         guarded("flex", [this] { events_->onRowColChange(); });
     }
-    QTableWidget::currentChanged(current, previous);
+    // The table view's own handler tells assistive technology of the move, and the item
+    // view's beneath it only repaints and scrolls.
+    if (movesVoiced()) {
+        QAbstractItemView::currentChanged(current, previous);
+    } else {
+        QTableWidget::currentChanged(current, previous);
+    }
+}
+
+void GridWidget::selectionChanged(const QItemSelection& selected,
+                                  const QItemSelection& deselected) {
+    if (movesVoiced()) {
+        QAbstractItemView::selectionChanged(selected, deselected);
+    } else {
+        QTableWidget::selectionChanged(selected, deselected);
+    }
 }
 
 void GridWidget::setCellDescriber(CellDescriber describer) {

@@ -19,6 +19,7 @@ class GridWidget : public QTableWidget, public GridControl {
 
     void setListener(GridEvents* events) override { events_ = events; }
     void setCellDescriber(CellDescriber describer) override;
+    void setMovesVoiced(MovesVoiced voiced) override { movesVoiced_ = std::move(voiced); }
 
     int rows() const override { return rows_; }
     void setRows(int rows) override;
@@ -51,6 +52,8 @@ class GridWidget : public QTableWidget, public GridControl {
   protected:
     void resizeEvent(QResizeEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
 
   private:
     void reshape();
@@ -59,9 +62,11 @@ class GridWidget : public QTableWidget, public GridControl {
     QTableWidgetItem* itemAt(int row, int col) const;
     void placeCursor(int row, int col);
     void describe(int row, int col, QTableWidgetItem& cell) const;
+    bool movesVoiced() const { return movesVoiced_ && movesVoiced_(); }
 
     GridEvents* events_ = nullptr;
     CellDescriber describer_;
+    MovesVoiced movesVoiced_;
     int rows_ = 2;
     int cols_ = 2;
     int fixedRows_ = 1;
