@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 Marivox Developers
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Prints the accessible tree of the running Marivox, one object a line: depth, role, name."""
+"""Prints the accessible tree of the running Marivox, one object a line: depth, role, name;
+with --focused, only the objects that say they have the keyboard focus."""
 
 import sys
 
@@ -21,17 +22,18 @@ def text_of(node, limit=600):
     return "" if contents == node.name else contents
 
 
-def walk(node, depth, out, limit=4000):
+def walk(node, depth, out, limit=4000, focused_only=False):
     if node is None or len(out) > limit:
         return
     try:
         name = one_line(node.name)
-        out.append("%d|%s|%s" % (depth, node.getRoleName(), name))
-        contents = text_of(node)
+        if not focused_only or node.getState().contains(pyatspi.STATE_FOCUSED):
+            out.append("%d|%s|%s" % (depth, node.getRoleName(), name))
+        contents = "" if focused_only else text_of(node)
         if contents:
             out.append("%d|text contents|%s" % (depth + 1, one_line(contents)))
         for index in range(node.childCount):
-            walk(node.getChildAtIndex(index), depth + 1, out, limit)
+            walk(node.getChildAtIndex(index), depth + 1, out, limit, focused_only)
     except Exception as error:  # an object that vanished while we looked
         out.append("%d|error|%s" % (depth, error))
 
@@ -42,7 +44,7 @@ def main():
     for index in range(desktop.childCount):
         application = desktop.getChildAtIndex(index)
         if application is not None and application.name.lower().startswith("marivox"):
-            walk(application, 0, lines)
+            walk(application, 0, lines, focused_only="--focused" in sys.argv)
     if lines:
         print("\n".join(lines))
     return 0 if lines else 1

@@ -9,6 +9,7 @@ session ends, whether the test passed or not.
 """
 
 import array
+import functools
 import os
 import re
 import shutil
@@ -54,6 +55,7 @@ class Session:
         self.env = {}
         self.game = None
         self.recording = bytearray()
+        self.arrivals = []  # (bytes recorded, when they had all arrived)
         self._recorder = None
         self.started_at = time.time()  # until the game starts, the session's start
 
@@ -153,14 +155,14 @@ class Session:
         self._recorder.start()
 
     def _record(self, stream):
-        # Silence is dropped as it comes, so a long session does not fill the memory.
+        # Silence is kept, so a sample's place in the recording tells when it was heard.
         try:
             while True:
                 chunk = stream.read(4096)
                 if not chunk:
                     return
-                if chunk.count(0) != len(chunk):
-                    self.recording.extend(chunk)
+                self.recording.extend(chunk)
+                self.arrivals.append((len(self.recording), time.time()))
         except (OSError, ValueError):
             return
 
@@ -341,28 +343,29 @@ class Session:
 
     def sounds_heard(self):
         """Our sound effects found in the recording, in the order they were played."""
-        recorded = array.array("h", bytes(self.recording[: len(self.recording) // 2 * 2]))
-        data = recorded.tobytes()
+        return [name for _, name in self.sound_times()]
+
+    def sound_times(self):
+        """Our sound effects in the recording as (seconds since the game started, name).
+
+        The sink plays in real time, so a sample is heard its place in the recording after
+        the recording began; and the recording began no later than any chunk's arrival less
+        the sound in it. The earliest such bound is taken, so a late read never delays it.
+        """
+        data = bytes(self.recording[: len(self.recording) // 2 * 2])
+        arrivals = list(self.arrivals)
+        if not arrivals:
+            return []
+        began = min(when - size / 2 / SAMPLE_RATE for size, when in arrivals)
         found = []
         for name in SOUNDS:
-            path = os.path.join(os.path.dirname(self.program), name + ".wav")
-            with wave.open(path, "rb") as sound:
-                samples = array.array("h", sound.readframes(sound.getnframes()))
-            # A stretch around the loudest sample identifies the sound exactly.
-            loudest = max(range(len(samples)), key=lambda i: abs(samples[i]))
-            middle = max(0, min(loudest - 128, len(samples) - 256))
-            probe = samples[middle: middle + 256].tobytes()
-            start = 0
-            while True:
-                at = data.find(probe, start)
-                if at < 0 or at % 2:
-                    if at < 0:
-                        break
-                    start = at + 1
-                    continue
-                found.append((at // 2 - middle, name))
-                start = at + len(probe)
-        return [name for _, name in sorted(found)]
+            offset, probe = _probe(os.path.join(os.path.dirname(self.program), name + ".wav"))
+            at = data.find(probe)
+            while at >= 0:
+                if at % 2 == 0:
+                    found.append((began + (at // 2 - offset) / SAMPLE_RATE - self.started_at, name))
+                at = data.find(probe, at + 1)
+        return sorted(found)
 
     def alerts(self):
         """The texts of the message boxes now open."""
@@ -406,11 +409,15 @@ class Session:
             wait_until(lambda: self.alerts() != shown, 5)
         return answered
 
-    def accessible_tree(self):
+    def accessible_tree(self, *options):
         """The game's accessible objects as (depth, role, name) lines."""
-        out = subprocess.run(["/usr/bin/python3", os.path.join(HERE, "a11y_dump.py")],
+        out = subprocess.run(["/usr/bin/python3", os.path.join(HERE, "a11y_dump.py"), *options],
                              capture_output=True, text=True, env=self._base_env(), timeout=60)
         return out.stdout.splitlines()
+
+    def focused(self):
+        """What assistive technology is told has the keyboard focus, as role|name lines."""
+        return [line.split("|", 1)[1] for line in self.accessible_tree("--focused")]
 
     def screenshot(self, path, window=None):
         dump = os.path.join(self.dir, "screen.xwd")
@@ -418,6 +425,18 @@ class Session:
         subprocess.run(["xwd", *target, "-silent", "-out", dump], env=self._base_env(),
                        check=True)
         subprocess.run(["convert", dump, path], check=True)
+
+
+@functools.lru_cache(maxsize=None)
+def _probe(path):
+    """Where in a sound the stretch that identifies it lies, and the stretch: its loudest,
+    but not in its first 50 ms, since the sink mixes a new sound into what the recording has
+    already taken, so that part of it is heard but not recorded."""
+    with wave.open(path, "rb") as sound:
+        samples = array.array("h", sound.readframes(sound.getnframes()))
+    offset = max(range(SAMPLE_RATE // 20, len(samples) - 256, 256),
+                 key=lambda i: sum(map(abs, samples[i: i + 256])))
+    return offset, samples[offset: offset + 256].tobytes()
 
 
 class _Pid:
