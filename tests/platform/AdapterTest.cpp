@@ -168,7 +168,8 @@ struct Device : audio::AudioStream {
 };
 
 // Sounds asked for one after another are heard whole, in order and back to back, however
-// their lengths fall against the player's chunks.
+// their lengths fall against the player's chunks; words waiting behind them are told only
+// once the last has reached the device.
 TEST(Player, PlaysEachSoundWholeInOrderWithoutAGap) {
     auto heard = std::make_shared<Played>();
     audio::StreamWavPlayer player([heard] {
@@ -185,8 +186,16 @@ TEST(Player, PlaysEachSoundWholeInOrderWithoutAGap) {
         const Samples samples = audio::toMono(audio::readWavFile(soundFile(sound)));
         expected.insert(expected.end(), samples.begin(), samples.end());
     }
+    const auto beforeLast =
+        expected.size() - audio::toMono(audio::readWavFile(soundFile(sound::Sink))).size();
+    std::size_t heardWhenTold = 0;
+    player.whenAcceptedSoundsHeard([&] {
+        std::lock_guard lock(heard->first);
+        heardWhenTold = heard->second.back().size();
+    });
     player.drainBeforeExit(std::chrono::seconds(5));
     std::lock_guard lock(heard->first);
+    EXPECT_GT(heardWhenTold, beforeLast);
     EXPECT_TRUE(heard->second == std::vector<Samples>{expected})
         << heard->second.size() << " connections, " << expected.size() << " samples expected";
 }

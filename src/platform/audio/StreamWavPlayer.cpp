@@ -58,6 +58,7 @@ struct StreamWavPlayer::Shared {
     // and forever if its server hangs.
     std::optional<Clock::time_point> inDeviceSince;
     bool connected = false;
+    bool deviceMissing = false;  // the last attempt to reach the device failed
     bool stopping = false;  // play what waits, then stop
     bool aborting = false;  // stop at once
     bool finished = false;
@@ -94,6 +95,7 @@ auto inDevice(StreamWavPlayer::Shared& s, Lock& lock, Call call) {
 std::unique_ptr<AudioStream> connect(StreamWavPlayer::Shared& s, Lock& lock) {
     auto stream = inDevice(s, lock, s.connector);
     s.connected = stream != nullptr;
+    s.deviceMissing = stream == nullptr;
     return stream;
 }
 
@@ -297,8 +299,9 @@ void StreamWavPlayer::whenAcceptedSoundsHeard(std::function<void()> then) {
     {
         auto& s = *shared_;
         std::lock_guard lock(s.mutex);
-        // Without a device nothing will be heard, so nothing is waited for.
-        if (s.connected && s.begun < s.accepted && !s.stopping && !s.aborting) {
+        // Without a device nothing will be heard, so nothing is waited for. While the worker
+        // still connects, or reconnects after an idle spell, it will tell either way.
+        if (!s.deviceMissing && s.begun < s.accepted && !s.stopping && !s.aborting) {
             s.notices.push_back({s.accepted, std::move(then)});
             return;
         }
