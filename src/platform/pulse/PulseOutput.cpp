@@ -56,6 +56,11 @@ class PulseStream final : public AudioStream {
 
     bool drain() override { return check(pa_simple_drain(stream_, &code_)); }
 
+    std::chrono::microseconds untilHeard() override {
+        const pa_usec_t latency = pa_simple_get_latency(stream_, &code_);
+        return std::chrono::microseconds(latency == static_cast<pa_usec_t>(-1) ? 0 : latency);
+    }
+
   private:
     bool check(int result) {
         if (result < 0) {
