@@ -429,13 +429,15 @@ class Session:
 
 @functools.lru_cache(maxsize=None)
 def _probe(path):
-    """Where in a sound the stretch that identifies it lies, and the stretch: its loudest,
-    but not in its first 50 ms, since the sink mixes a new sound into what the recording has
-    already taken, so that part of it is heard but not recorded."""
+    """Where in a sound the stretch that identifies it lies, and the stretch: the first loud
+    one, so the sound is found soon after it begins, but not in its first 100 ms: the
+    sink mixes a new sound into what the recording has already taken, so that part of it is
+    heard but not recorded."""
     with wave.open(path, "rb") as sound:
         samples = array.array("h", sound.readframes(sound.getnframes()))
-    offset = max(range(SAMPLE_RATE // 20, len(samples) - 256, 256),
-                 key=lambda i: sum(map(abs, samples[i: i + 256])))
+    stretches = range(SAMPLE_RATE // 10, len(samples) - 256, 256)
+    loudness = {i: sum(map(abs, samples[i: i + 256])) for i in stretches}
+    offset = next(i for i in stretches if loudness[i] >= max(loudness.values()) / 2)
     return offset, samples[offset: offset + 256].tobytes()
 
 
