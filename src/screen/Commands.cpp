@@ -15,6 +15,7 @@ void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t /*shift*/) {
         if (state_.TurnState != kPlayersTurn) {
             return;
         }
+        speech_.SilenceWaiting();
         speech_.StopSpeech();
         // Any key drops the pending reminder that it is the player's turn.
         if (tmrTimer2_->isOn()) {

@@ -12,6 +12,10 @@ class Speech {
     virtual ~Speech() = default;
     virtual void Speak(std::string_view text) = 0;
     virtual void StopSpeech() = 0;
+    // Drops what waits to be said behind sounds not yet heard. The player's key silences it,
+    // as it silences speech; the game's own StopSpeech silences only what is being said, so
+    // an announcement never swallows a result still waiting for its sounds.
+    virtual void SilenceWaiting() {}
 };
 
 // The one way the game plays a sound effect, named by its file-name text ("\shoot.wav").

@@ -35,11 +35,6 @@ void SpeechAfterSounds::Speak(std::string_view text) {
     }
 }
 
-void SpeechAfterSounds::StopSpeech() {
-    held_.clear();
-    speech_.StopSpeech();
-}
-
 void SpeechAfterSounds::PlaySound(std::string_view name) {
     sounds_.PlaySound(name);
     const auto sound = ++latestSound_;

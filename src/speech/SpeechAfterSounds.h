@@ -17,15 +17,16 @@ class WavPlayer;
 
 // The game's speech and sounds as the player hears them: words spoken after sounds wait
 // until the last of those sounds has begun, so a shot's result never talks over the shot.
-// Nothing blocks meanwhile; a stop drops the words still waiting, as it silences those
-// being said. A device that never starts a sound holds the words for a few seconds at most.
+// Nothing blocks meanwhile; the player's key drops the words still waiting, as it silences
+// those being said. A device that never starts a sound holds the words a few seconds at most.
 class SpeechAfterSounds : public Speech, public Sounds {
   public:
     SpeechAfterSounds(Speech& speech, Sounds& sounds, WavPlayer& player, TimerFactory& timers);
     ~SpeechAfterSounds() override;
 
     void Speak(std::string_view text) override;
-    void StopSpeech() override;
+    void StopSpeech() override { speech_.StopSpeech(); }
+    void SilenceWaiting() override { held_.clear(); }
     void PlaySound(std::string_view name) override;
 
   private:
