@@ -26,21 +26,21 @@ class ReaderDialogQt::Form : public QDialog {
   public:
     explicit Form(ReaderDialogEvents& events) : QDialog(nullptr), events_(events) {
         setObjectName("frmReader");
-        setWindowTitle("Screen Reader");
-        setFixedSize(twips(3000), twips(3495));
+        setWindowTitle(layout::kReaderCaption);
+        setFixedSize(twips(layout::kReaderWidth), twips(layout::kReaderHeight));
         setWindowModality(Qt::ApplicationModal);
         list = new QListWidget(this);
         list->setObjectName("lstReader");
-        list->setGeometry(twipsRect(500, 200, 2000, 1425));
-        list->setAccessibleName("Screen Reader");
-        auto* label = new QLabel("Screen Reader", this);
-        label->setObjectName("lblReader");
-        label->setGeometry(twipsRect(500, 0, 1000, 195));
+        list->setGeometry(twipsRect(layout::kReaderList));
+        list->setAccessibleName(layout::kReaderLabel.text);
+        auto* label = new QLabel(layout::kReaderLabel.text, this);
+        label->setObjectName(layout::kReaderLabel.name);
+        label->setGeometry(twipsRect(layout::kReaderLabel.place));
         label->setBuddy(list);
         fitTextToWidth(*label);
         auto* ok = new QPushButton("OK", this);
         ok->setObjectName("btnOK");
-        ok->setGeometry(twipsRect(1000, 3000, 1000, 300));
+        ok->setGeometry(twipsRect(layout::kReaderOk));
         ok->setDefault(true);
         setTabOrder(list, ok);
         connect(ok, &QPushButton::clicked, this,
@@ -111,28 +111,29 @@ class AboutBoxQt::Form : public QDialog {
   public:
     Form(AboutBoxEvents& events, QWidget* owner) : QDialog(owner), events_(events) {
         setObjectName("frmAbout");
-        setWindowTitle("About Marivox");
-        setFixedSize(twips(5865), twips(3600));
+        setWindowTitle(layout::kAboutCaption);
+        setFixedSize(twips(layout::kAboutWidth), twips(layout::kAboutHeight));
         setModal(true);
         auto* icon = new QLabel(this);
         icon->setObjectName("picIcon");
-        icon->setPixmap(programIcon().pixmap(twips(480)));
-        icon->setGeometry(twips(240), twips(240), twips(480), twips(480));
+        icon->setPixmap(programIcon().pixmap(twips(layout::kAboutIcon.width)));
+        icon->setGeometry(twipsRect(layout::kAboutIcon));
         title = new QLabel(this);
         title->setObjectName("lblTitle");
-        title->setGeometry(twipsRect(1050, 240, 4092, 480));
+        title->setGeometry(twipsRect(layout::kAboutTitle));
         QFont big = title->font();
         big.setPointSizeF(big.pointSizeF() * 1.5);
         big.setBold(true);
         title->setFont(big);
         version = new QLabel(this);
         version->setObjectName("lblVersion");
-        version->setGeometry(twipsRect(1050, 780, 4092, 225));
-        const int lineTop = twips(2400);
+        version->setGeometry(twipsRect(layout::kAboutVersion));
+        const int lineTop = twips(layout::kAboutLineTop);
+        const int inset = twips(layout::kAboutLineInset);
         for (const auto& [offset, colour] :
              {std::pair{0, QColor(128, 128, 128)}, std::pair{1, QColor(255, 255, 255)}}) {
             auto* line = new QFrame(this);
-            line->setGeometry(twips(100), lineTop + offset, width() - 2 * twips(100), 1);
+            line->setGeometry(inset, lineTop + offset, width() - 2 * inset, 1);
             line->setAutoFillBackground(true);
             QPalette p = line->palette();
             p.setColor(QPalette::Window, colour);
@@ -140,7 +141,7 @@ class AboutBoxQt::Form : public QDialog {
         }
         auto* ok = new QPushButton("OK", this);
         ok->setObjectName("cmdOK");
-        ok->setGeometry(twipsRect(4245, 2625, 1467, 345));
+        ok->setGeometry(twipsRect(layout::kAboutOk));
         ok->setDefault(true);
         connect(ok, &QPushButton::clicked, this,
                 [this] { guarded("frmAbout", [this] { events_.cmdOK_Click(); }); });

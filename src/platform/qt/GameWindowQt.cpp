@@ -18,62 +18,23 @@
 #include "platform/qt/Twips.h"
 
 namespace marivox::qt {
-namespace {
-
-struct MenuItem {
-    const char* name;
-    const char* caption;
-    void (GameScreenEvents::*handler)();
-};
-
-struct Menu {
-    const char* name;
-    const char* caption;
-    std::vector<MenuItem> items;
-};
-
-const std::vector<Menu>& menuTree() {
-    static const std::vector<Menu> tree{
-        {"mnuGame",
-         "&Game",
-         {{"mnuGameNew", "&New Game ", &GameScreenEvents::mnuGameNew_Click},
-          {"mnuGameReader", "&Screen Reader...", &GameScreenEvents::mnuGameReader_Click},
-          {"mnuGameExit", "E&xit Program", &GameScreenEvents::mnuGameExit_Click}}},
-        {"mnuOptions",
-         "&Options",
-         {{"mnuOptionsStatus", "&Speak Status - F2", &GameScreenEvents::mnuOptionsStatus_Click},
-          {"mnuOptionsShoot", "S&hoot - Enter", &GameScreenEvents::mnuOptionsShoot_Click}}},
-        {"mnuHelp",
-         "&Help",
-         {{"mnuHelpContents", "&Help Topics F1", &GameScreenEvents::mnuHelpContents_Click},
-          {"mnuHelpAbout", "&About Marivox", &GameScreenEvents::mnuHelpAbout_Click}}},
-    };
-    return tree;
-}
-
-struct LegendLabel {
-    const char* name;
-    const char* text;
-    int top;
-};
-
-}  // namespace
 
 GameWindowQt::GameWindowQt(QtApplication& application, probe::LatencyLog* latency)
     : application_(application), latency_(latency) {
     setObjectName("GameScreen");
-    setWindowTitle("Marivox");
-    setAccessibleName("Marivox");
+    setWindowTitle(layout::kGameCaption);
+    setAccessibleName(layout::kGameCaption);
     setWindowIcon(programIcon());
     auto* client = new QWidget(this);
     client->setObjectName("client");
     setCentralWidget(client);
     grid_ = new GridWidget(client);
-    grid_->setGeometry(twipsRect(0, 0, 10000, 2800));
+    grid_->setGeometry(twipsRect(layout::kBoard));
     buildMenus();
     buildLabels();
-    client->setMinimumSize(twips(9660), twips(6015));
-    resize(twips(9660), twips(6015) + menuBar()->sizeHint().height());
+    client->setMinimumSize(twips(layout::kGameClientWidth), twips(layout::kGameClientHeight));
+    resize(twips(layout::kGameClientWidth),
+           twips(layout::kGameClientHeight) + menuBar()->sizeHint().height());
     setFocusProxy(grid_);
     grid_->setFocus();
     qApp->installEventFilter(this);
@@ -84,10 +45,13 @@ GameWindowQt::~GameWindowQt() {
 }
 
 void GameWindowQt::buildMenus() {
-    for (const Menu& menu : menuTree()) {
+    for (const layout::Menu& menu : layout::kMenus) {
         QMenu* submenu = menuBar()->addMenu(menu.caption);
         submenu->setObjectName(menu.name);
-        for (const MenuItem& item : menu.items) {
+        for (const layout::MenuItem& item : menu.items) {
+            if (item.name == nullptr) {
+                continue;
+            }
             QAction* action = submenu->addAction(item.caption);
             action->setObjectName(item.name);
             // The menu tree is static, so the item outlives every connection to it.
@@ -98,20 +62,14 @@ void GameWindowQt::buildMenus() {
             });
         }
     }
-    // The only real shortcut: the keys named in other captions are the key handler's.
     action("mnuGameNew")->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
 }
 
 void GameWindowQt::buildLabels() {
-    const LegendLabel labels[] = {
-        {"lblLabel0", "Click on a cell to shoot!", 3000},
-        {"lblLabel1", "A = Aircraft Carrier   B = Battleship   C = Cruiser", 3500},
-        {"lblLabel2", "D = Destroyer   M = Miss   P = Patrol Boat   S = Submarine", 3900},
-    };
-    for (const LegendLabel& wanted : labels) {
+    for (const layout::Label& wanted : layout::kLegend) {
         auto* label = new QLabel(wanted.text, centralWidget());
         label->setObjectName(wanted.name);
-        label->setGeometry(twipsRect(2500, wanted.top, 5000, 255));
+        label->setGeometry(twipsRect(wanted.place));
         fitTextToWidth(*label);
     }
 }

@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <cmath>
 
+#include "platform/FormLayouts.h"
+
 namespace marivox::qt {
 
 // Places and sizes are given in twips (1440 to the inch) and drawn at the screen's DPI.
@@ -20,6 +22,10 @@ inline int twips(int value) {
 
 inline QRect twipsRect(int left, int top, int width, int height) {
     return {twips(left), twips(top), twips(width), twips(height)};
+}
+
+inline QRect twipsRect(const layout::Place& place) {
+    return twipsRect(place.left, place.top, place.width, place.height);
 }
 
 // The places are fixed; the font is ours, made small enough for the whole text to show.
