@@ -15,6 +15,18 @@ std::wstring wideText(std::string_view utf8) {
     return wide;
 }
 
+std::string utf8Text(std::wstring_view wide) {
+    if (wide.empty()) {
+        return {};
+    }
+    const int size = static_cast<int>(wide.size());
+    const int length =
+        WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, nullptr, 0, nullptr, nullptr);
+    std::string utf8(static_cast<std::size_t>(length), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, utf8.data(), length, nullptr, nullptr);
+    return utf8;
+}
+
 std::string ansiText(std::string_view utf8) {
     const std::wstring wide = wideText(utf8);
     if (wide.empty()) {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 // Text conversions for the Windows components: the game's UTF-8 into the wide strings of
-// COM and the ANSI code page of the older APIs.
+// Windows and COM and back, and into the ANSI code page of the older APIs.
 
 #include <windows.h>
 
@@ -12,6 +12,7 @@
 namespace marivox::windows {
 
 std::wstring wideText(std::string_view utf8);
+std::string utf8Text(std::wstring_view wide);
 std::string ansiText(std::string_view utf8);
 
 }  // namespace marivox::windows

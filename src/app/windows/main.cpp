@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Marivox on Windows: builds the native desktop, the screen readers' interfaces and the wave
+// output, and starts the game.
+#include <windows.h>
+// After windows.h, which they need.
+#include <commctrl.h>
+#include <objbase.h>
+
+#include <chrono>
+
+#include "platform/audio/StreamWavPlayer.h"
+#include "platform/system/SystemClock.h"
+#include "platform/windows/WinApplication.h"
+#include "platform/windows/WinDesktop.h"
+#include "platform/windows/WinDialogs.h"
+#include "platform/windows/WinGameWindow.h"
+#include "platform/windows/WinMessageBoxes.h"
+#include "platform/windows/WinSettingsStore.h"
+#include "platform/windows/WinTimers.h"
+#include "platform/windows/WinWaveOut.h"
+#include "platform/windows/WindowsAutomation.h"
+#include "platform/windows/WindowsJawsApi.h"
+#include "platform/windows/WindowsShell.h"
+#include "screen/System.h"
+
+int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
+    using namespace marivox;
+    // The Window-Eyes object is an apartment-threaded COM object, called on this thread.
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_STANDARD_CLASSES};
+    InitCommonControlsEx(&controls);
+    windows::Desktop desktop(instance);
+    windows::WinApplication application;
+    windows::WindowsShell shell;
+    windows::WinGameWindow window(application);
+    windows::WinTimerFactory timers;
+    windows::WinMessageBoxes boxes;
+    windows::WinSettingsStore settings;
+    audio::StreamWavPlayer player(
+        windows::waveOutConnector(), audio::PlayerLimits{},
+        [](const std::exception& failure) {
+            windows::Desktop::escapedOnAnyThread("PlaySound", failure);
+        },
+        windows::Desktop::post);
+    windows::WindowsJawsApi jaws;
+    windows::WindowsAutomationObjects automation;
+    windows::WinReaderDialog readerDialog;
+    windows::WinAboutBox aboutBox([&window] { return window.handle(); });
+    RealClock clock;
+    RealSleeper sleeper;
+
+    System system({window, timers, boxes, application, settings, shell, player, jaws, automation,
+                   readerDialog, aboutBox, clock, sleeper},
+                  clock.ticks());
+    desktop.setEscapedFailureHandler(
+        [&system](std::string_view where, const std::exception& failure) {
+            system.guard.reportEscaped(where, failure);
+        });
+    desktop.setPreview([&window](MSG& message) { return window.preview(message); });
+    system.Main();
+    const int result = application.isEnding() ? 0 : desktop.run();
+    // The closing sound is heard whole before the program goes, even behind a full queue.
+    player.drainBeforeExit(std::chrono::seconds(6));
+    CoUninitialize();
+    return result;
+}
