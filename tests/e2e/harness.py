@@ -44,12 +44,14 @@ def wait_until(condition, timeout, interval=0.02):
 
 
 class Session:
-    def __init__(self, stored_reader="JFW", speech=True, audio=True, program=None, orca=False):
+    def __init__(self, stored_reader="JFW", speech=True, audio=True, program=None, orca=False,
+                 launcher=()):
         self.stored_reader = stored_reader
         self.with_speech = speech
         self.with_audio = audio
         self.with_orca = orca
         self.program = program or os.path.join(BUILD, "marivox")
+        self.launcher = list(launcher)  # what runs the program, if it does not run alone
         self.dir = tempfile.mkdtemp(prefix="marivox-e2e-")
         self.processes = []  # (name, Popen), stopped in reverse order
         self.env = {}
@@ -214,8 +216,8 @@ class Session:
         env["QT_ACCESSIBILITY"] = "1"
         self.started_at = time.time()
         self.game_log = open(os.path.join(self.dir, "game.log"), "w")
-        self.game = self._spawn("marivox", [self.program], env=env, stdout=self.game_log,
-                                stderr=subprocess.STDOUT)
+        self.game = self._spawn("marivox", self.launcher + [self.program], env=env,
+                                stdout=self.game_log, stderr=subprocess.STDOUT)
         return self.game
 
     def window_id(self, name="Marivox", timeout=10):

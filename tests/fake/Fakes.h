@@ -331,7 +331,9 @@ struct FakeSleeper : Sleeper {
 struct FakeWavPlayer : WavPlayer, Recorder {
     FakeWavPlayer(Transcript& t, FakeSleeper& sleeper) : Recorder(t), sleeper(sleeper) {}
     void open(std::string_view path) override {
-        t.record("sound " + std::string(path));
+        std::string shown(path);  // the same transcript whatever the platform's separator
+        std::replace(shown.begin(), shown.end(), '\\', '/');
+        t.record("sound " + shown);
         opened = sleeper.slept;
     }
     void play(std::int32_t, std::int32_t, bool) override {}

@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+// For the tests: prints what a screen reader would find in the visible windows on the
+// desktop, one line each: "window|<title>", then for its controls "text|<text>",
+// "button|<caption>" and "item|<text>|selected" or "item|<text>|".
+#include <windows.h>
+
+#include <cstdio>
+#include <string>
+
+namespace {
+
+std::string utf8(const std::wstring& wide) {
+    const int length =
+        WideCharToMultiByte(CP_UTF8, 0, wide.c_str(), -1, nullptr, 0, nullptr, nullptr);
+    std::string text(static_cast<std::size_t>(length > 0 ? length - 1 : 0), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, wide.c_str(), -1, text.data(), length, nullptr, nullptr);
+    for (char& c : text) {
+        c = c == '\r' ? ' ' : c == '\n' ? ' ' : c;
+    }
+    return text;
+}
+
+std::wstring textOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(
+        GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+BOOL CALLBACK control(HWND child, LPARAM) {
+    wchar_t kind[64] = L"";
+    GetClassNameW(child, kind, 64);
+    if (_wcsicmp(kind, L"ListBox") == 0) {
+        const LRESULT selected = SendMessageW(child, LB_GETCURSEL, 0, 0);
+        const LRESULT count = SendMessageW(child, LB_GETCOUNT, 0, 0);
+        for (LRESULT i = 0; i < count; ++i) {
+            std::wstring item(
+                static_cast<std::size_t>(SendMessageW(child, LB_GETTEXTLEN, i, 0)) + 1, L'\0');
+            SendMessageW(child, LB_GETTEXT, i, reinterpret_cast<LPARAM>(item.data()));
+            item.resize(wcslen(item.c_str()));
+            std::printf("item|%s|%s\n", utf8(item).c_str(), i == selected ? "selected" : "");
+        }
+    } else if (IsWindowVisible(child) && GetWindowTextLengthW(child) > 0) {
+        std::printf("%s|%s\n", _wcsicmp(kind, L"Button") == 0 ? "button" : "text",
+                    utf8(textOf(child)).c_str());
+    }
+    return TRUE;
+}
+
+BOOL CALLBACK window(HWND top, LPARAM) {
+    if (IsWindowVisible(top) && GetWindowTextLengthW(top) > 0) {
+        std::printf("window|%s\n", utf8(textOf(top)).c_str());
+        EnumChildWindows(top, control, 0);
+    }
+    return TRUE;
+}
+
+}  // namespace
+
+int main() {
+    EnumWindows(window, 0);
+    return 0;
+}

@@ -1,0 +1,220 @@
+# SPDX-FileCopyrightText: 2026 Marivox Developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""The Windows game played by ear under Wine, in the same private session as on Linux (Xvfb,
+a recording PulseAudio, which Wine plays into): the real marivox.exe, with stand-ins for JAWS
+and Window-Eyes that write down every call they get. What the windows hold is read as a
+screen reader would, by a small Windows program of the tests' own (readwindows.exe)."""
+
+import os
+import re
+import subprocess
+import sys
+import time
+import unittest
+import zipfile
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+sys.path.insert(0, os.path.join(os.path.dirname(HERE), "e2e"))
+import harness  # noqa: E402
+
+BUILD = harness.BUILD
+STANDINS = os.environ.get("MARIVOX_STANDINS", os.path.join(BUILD, "tests", "windows",
+                                                          "standins"))
+PROMPT = [" press f 1 for help  ", " press f 2 for status  ",
+          " it is your turn, and you are located at A 1 "]
+TARGETING = re.compile(r"^It is my turn targeting [A-I]  [1-9]$")
+SETTING = r"HKCU\Software\Marivox\StartUp"
+SPEAK_CLASS = "{6D1C2B7E-3F0A-4E59-9C1D-8A2B5E7F4C31}"
+
+
+def wine_path(path):
+    return "Z:" + path.replace("/", "\\")
+
+
+class WindowsGame(unittest.TestCase):
+    stored_reader = "JFW"
+    with_standins = True
+
+    def setUp(self):
+        self.session = harness.Session(stored_reader=None, speech=False, launcher=["wine"],
+                                       program=os.path.join(BUILD, "marivox.exe"))
+        self.log = os.path.join(self.session.dir, "standin.log")
+        self.session.env.update({
+            "WINEPREFIX": os.environ["WINEPREFIX"], "WINEDEBUG": "-all",
+            "WINEDLLOVERRIDES": "mscoree,mshtml=", "MARIVOX_STANDIN_LOG": wine_path(self.log)})
+        if self.with_standins:
+            self.session.env["WINEPATH"] = wine_path(STANDINS)
+        self.session.__enter__()
+        self.addCleanup(self.session.close)
+        self.wine("reg", "delete", r"HKCU\Software\Marivox", "/f")
+        if self.stored_reader is not None:
+            self.wine("reg", "add", SETTING, "/v", "Reader", "/d", self.stored_reader, "/f")
+
+    def wine(self, *argv):
+        return subprocess.run(["wine", *argv], env=self.session._base_env(), capture_output=True,
+                              text=True, timeout=120).stdout
+
+    def start(self):
+        self.session.launch()
+        self.window = self.session.window_id(timeout=60)
+
+    def said(self):
+        """Calls to the screen reader so far: (seconds since the game started, call, text)."""
+        try:
+            with open(self.log, encoding="utf-8", errors="replace") as log:
+                lines = log.read().split("|\n")[:-1]
+        except FileNotFoundError:
+            return []
+        return [(float(stamp) - self.session.started_at, call, text)
+                for stamp, call, text in (line.split("|", 2) for line in lines)]
+
+    def texts(self, call="JFWSayString"):
+        return [text for _, made, text in self.said() if made == call]
+
+    def wait_for_text(self, text, call="JFWSayString", timeout=20, after=0):
+        found = harness.wait_until(lambda: next(
+            (t for t, made, said in self.said()[after:] if made == call and said == text), None),
+            timeout)
+        self.assertIsNotNone(found, "never heard %r; heard %r" % (text, self.said()))
+        return found
+
+    def windows(self):
+        """What readwindows.exe finds on the desktop, as lines."""
+        return self.wine(os.path.join(STANDINS, "readwindows.exe")).splitlines()
+
+    def showing(self, fragment):
+        return any(fragment in line for line in self.windows())
+
+    def wait_for_window(self, fragment, timeout=20):
+        self.assertTrue(harness.wait_until(lambda: self.showing(fragment), timeout, 0.3),
+                        self.windows())
+
+    def keys(self, *names, window=None):
+        self.session.keys(*names, window=window or self.window)
+
+
+class FirstStart(WindowsGame):
+    stored_reader = None
+
+    def test_the_dialog_asks_ok_stores_jfw_and_the_prompt_follows_the_sounds(self):
+        self.start()
+        self.wait_for_window("window|Screen Reader")
+        shown = self.windows()
+        self.assertIn("item|JAWS For Windows|selected", shown)
+        self.assertIn("item|Window-Eyes|", shown)
+        self.assertEqual(self.said(), [])  # nothing speaks before the choice
+        self.keys("Return", window=self.session.window_id("Screen Reader"))
+        prompted = self.wait_for_text(PROMPT[-1])
+        self.assertEqual(self.texts(), PROMPT)
+        self.assertRegex(self.wine("reg", "query", SETTING, "/v", "Reader"), r"Reader\s+REG_SZ\s+JFW")
+        sounds = harness.wait_until(lambda: self.session.sound_times()[1:] and
+                                    self.session.sound_times()[:2], 10)
+        self.assertEqual([name for _, name in sounds], ["begin", "sonar"])
+        self.assertGreaterEqual(prompted, sounds[1][0] - 0.02)
+
+
+class Played(WindowsGame):
+    def test_moves_a_shot_the_computers_turn_status_and_the_boxes(self):
+        self.start()
+        self.wait_for_text(PROMPT[-1])
+        for count, (key, cell) in enumerate((("Down", "B  1"), ("Right", "B  2")), 1):
+            heard = len(self.said())
+            self.keys(key)
+            self.wait_for_text(cell, after=heard)
+            self.assertEqual(self.said()[heard][1], "JFWStopSpeech")
+        heard = len(self.said())
+        self.keys("F2")
+        self.wait_for_text(" I have sank  0 of your ships.  ", after=heard)
+        self.assertEqual(self.texts()[-2:], [" You have sank  0 of my ships.  ",
+                                             " I have sank  0 of your ships.  "])
+        heard, fired = len(self.said()), time.time() - self.session.started_at
+        self.keys("Return")
+        shot = harness.wait_until(lambda: [(t, s) for t, c, s in self.said()[heard:]
+                                           if s.startswith("B  2 was ") or "You sank" in s], 10)
+        self.assertTrue(shot, self.said()[heard:])
+        aimed = harness.wait_until(lambda: [(t, s) for t, c, s in self.said()[heard:]
+                                            if TARGETING.match(s)], 10)
+        self.assertTrue(aimed, self.said()[heard:])
+        self.assertGreaterEqual(aimed[0][0] - fired, 1.9)
+        answer = harness.wait_until(lambda: [t for t, c, s in self.said()[heard:]
+                                             if t > aimed[0][0] and (" was " in s or " sank " in s)],
+                                    10)
+        self.assertTrue(answer, self.said()[heard:])
+        self.assertGreaterEqual(answer[0] - aimed[0][0], 2.4)
+
+        self.keys("ctrl+n")
+        self.wait_for_window("text|There is already a game in progress.  Are you sure")
+        self.keys("n", window=self.session.window_id())  # the box, taking the keys
+        self.assertTrue(harness.wait_until(
+            lambda: not self.showing("There is already a game in progress."), 10, 0.3))
+        self.keys("alt+g", "x")
+        self.wait_for_window("text|There is a game in progress.")
+        self.keys("Return", window=self.session.window_id())
+        self.assertTrue(self.session.game_ended(20), self.session.state())
+
+
+class WindowEyes(WindowsGame):
+    stored_reader = "WE"
+
+    def setUp(self):
+        super().setUp()
+        classes = r"HKLM\Software\Classes"
+        self.wine("reg", "add", classes + r"\GWSpeak.Speak\CLSID", "/ve", "/d", SPEAK_CLASS, "/f")
+        server = classes + r"\CLSID" + "\\" + SPEAK_CLASS + r"\InprocServer32"
+        self.wine("reg", "add", server, "/ve", "/d",
+                  wine_path(os.path.join(STANDINS, "gwspeak_standin.dll")), "/f")
+        self.wine("reg", "add", server, "/v", "ThreadingModel", "/d", "Apartment", "/f")
+        self.addCleanup(self.wine, "reg", "delete", classes + r"\GWSpeak.Speak", "/f")
+
+    def test_the_game_speaks_through_the_speech_object(self):
+        self.start()
+        self.wait_for_text(PROMPT[-1], call="SpeakString")
+        self.assertEqual(self.texts("SpeakString"), PROMPT)
+        heard = len(self.said())
+        self.keys("Right")
+        self.wait_for_text("A  2", call="SpeakString", after=heard)
+        self.assertEqual(self.said()[heard][1], "Silence")
+
+
+class MissingReader(WindowsGame):
+    with_standins = False
+
+    def test_the_failure_is_reported_and_the_game_goes_on(self):
+        self.start()
+        self.wait_for_window("button|OK", 30)
+        reports = [line for line in self.windows() if line.startswith("text|")]
+        self.assertTrue(any("jfwapi.dll" in line and line.endswith(" StopSpeech()")
+                            for line in reports), reports)
+        for _ in range(4):  # stop, then the three lines of the prompt, each told once
+            self.keys("Return", window=self.session.window_id())
+            harness.wait_until(lambda: not self.showing("button|OK"), 3, 0.3)
+        self.assertIsNone(self.session.game.poll())
+        self.assertIn("window|Marivox", self.windows())
+
+
+class Package(WindowsGame):
+    stored_reader = None
+
+    def test_the_zip_and_the_installer_hold_the_program_folder(self):
+        subprocess.run(["cpack", "-C", "RelWithDebInfo"], cwd=BUILD, check=True,
+                       capture_output=True)
+        name = "marivox-1.0.0-windows-x86_64"
+        folder = ["marivox.exe", "marvox.hlp", "marvox.htm", "LICENSE.txt"] + [
+            sound + ".wav" for sound in harness.SOUNDS]
+        with zipfile.ZipFile(os.path.join(BUILD, name + ".zip")) as package:
+            self.assertEqual(sorted(package.namelist()),
+                             sorted(name + "/" + file for file in folder))
+        self.wine(os.path.join(BUILD, name + ".exe"), "/S")
+        drive = os.path.join(os.environ["WINEPREFIX"], "drive_c")
+        installed = os.path.join(drive, "Program Files", "Marivox")
+        self.assertTrue(all(os.path.exists(os.path.join(installed, file)) for file in folder),
+                        os.listdir(installed))
+        menu = subprocess.run(["find", drive, "-name", "Marivox.lnk"], capture_output=True,
+                              text=True).stdout
+        self.assertIn("Start Menu", menu)
+        self.wine(os.path.join(installed, "Uninstall.exe"), "/S", "_?=" + wine_path(installed))
+        self.assertFalse(os.path.exists(os.path.join(installed, "marivox.exe")))
+
+
+if __name__ == "__main__":
+    unittest.main()
