@@ -20,6 +20,8 @@ import threading
 import time
 import wave
 
+from Xlib import X, display
+
 HERE = os.path.dirname(os.path.abspath(__file__))
 SOURCE = os.path.dirname(os.path.dirname(HERE))
 BUILD = os.environ.get("MARIVOX_BUILD_DIR", os.path.join(SOURCE, "build"))
@@ -249,6 +251,17 @@ class Session:
                            check=False)
         subprocess.run(["xdotool", "key", "--delay", str(delay_ms), *names],
                        env=self._base_env(), check=True)
+
+    def give_focus(self, window):
+        """What a window manager does for the window a user comes back to: the keyboard focus
+        leaves and returns, so the toolkit hears the window take it even if the focus never
+        left it in the server's eyes."""
+        screen = display.Display(self.env["DISPLAY"])
+        screen.set_input_focus(X.PointerRoot, X.RevertToParent, X.CurrentTime)
+        screen.set_input_focus(screen.create_resource_object("window", int(window, 0)),
+                               X.RevertToParent, X.CurrentTime)
+        screen.sync()
+        screen.close()
 
     def kill_speech(self):
         os.kill(self.speech_pid, signal.SIGKILL)

@@ -399,6 +399,11 @@ class WithOrca(OrcaBeside):
             self.session.keys(*keys, window=self.window)
             self.orca_reads(fragment, heard)
             self.session.keys(answer)
+            # With no window manager to give the game window the focus back, the test does,
+            # and sends the next command once the window is active again.
+            self.session.give_focus(self.window)
+            self.assertTrue(harness.wait_until(
+                lambda: "frame|Marivox" in self.session.focused(), 10), self.session.focused())
         self.assertIsNone(self.session.orca.poll())  # Orca is still running
         self.assertIsNone(self.session.game.poll())
 
