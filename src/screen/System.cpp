@@ -19,6 +19,8 @@ System::System(const PlatformPorts& p, std::uint64_t seed)
       screen({state, guard, heard, heard, random, reader, readerChoice, help, about, p.window,
               p.timers, p.boxes, p.application}) {
     reports.speakThrough([this](std::string_view text) { heard.Speak(text); });
+    p.jaws.onLateFailure(speech.lateFailures());
+    p.automation.onLateFailure(speech.lateFailures());
 }
 
 void System::Main() {

@@ -39,4 +39,32 @@ void ScreenReaderSpeech::StopSpeech() {
     });
 }
 
+LateFailureHandler ScreenReaderSpeech::lateFailures() {
+    return [this](SpeechCall call) -> FailureTeller {
+        // A report's own words fail quietly, as they do when the failure comes at once.
+        if (guard_.reports().speakingReport()) {
+            return {};
+        }
+        const Procedure procedure =
+            call == SpeechCall::Stop ? Procedure::StopSpeech : Procedure::Speak;
+        return [this, procedure](std::exception_ptr failure) { tellLate(procedure, failure); };
+    };
+}
+
+// One report at a time, in the order of the calls: a failure told while a report's box is
+// open waits for it to close, rather than opening a box on top that would be read first.
+void ScreenReaderSpeech::tellLate(Procedure procedure, std::exception_ptr failure) {
+    untold_.emplace_back(procedure, std::move(failure));
+    if (telling_) {
+        return;
+    }
+    telling_ = true;
+    while (!untold_.empty()) {
+        const auto [next, what] = untold_.front();
+        untold_.pop_front();
+        guard_.reportLate(next, what);
+    }
+    telling_ = false;
+}
+
 }  // namespace marivox

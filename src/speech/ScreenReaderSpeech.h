@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <deque>
+#include <utility>
+
+#include "platform/ScreenReaders.h"
 #include "speech/Speech.h"
+#include "support/Procedures.h"
 
 namespace marivox {
 
 class Guard;
-class JawsApi;
 struct ScreenReaderState;
 
 // Speech through the screen reader the player chose, looked up at every call so that a
@@ -19,11 +23,17 @@ class ScreenReaderSpeech : public Speech {
 
     void Speak(std::string_view text) override;
     void StopSpeech() override;
+    // For speech adapters that hand calls on: whom to tell of a call that fails later.
+    LateFailureHandler lateFailures();
 
   private:
+    void tellLate(Procedure procedure, std::exception_ptr failure);
+
     ScreenReaderState& reader_;
     JawsApi& jaws_;
     Guard& guard_;
+    std::deque<std::pair<Procedure, std::exception_ptr>> untold_;
+    bool telling_ = false;
 };
 
 }  // namespace marivox

@@ -23,6 +23,9 @@ class ErrorReports {
     // ShowError speaks through the game's speech, which in turn reports its own failures
     // here; the two are wired after both exist.
     void speakThrough(std::function<void(std::string_view)> speak) { speak_ = std::move(speak); }
+    // While a report speaks and shows its box, speech failures go untold: the report is
+    // already telling of one.
+    bool speakingReport() const { return speakingReport_; }
 
     void ReportError(std::int32_t number, std::string_view description, std::string_view label);
     void ShowError(const std::string& description, const std::string& label);

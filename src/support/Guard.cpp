@@ -14,6 +14,16 @@ void Guard::reportEscaped(std::string_view where, const std::exception& failure)
     reports_.ReportError(number, description, " in " + std::string(where) + "()");
 }
 
+void Guard::reportLate(Procedure procedure, const std::exception_ptr& failure) {
+    try {
+        std::rethrow_exception(failure);
+    } catch (const Failure& known) {
+        handle(procedure, known, {});
+    } catch (const std::exception& other) {
+        handle(procedure, Failure(FailureNumber::Internal, other.what()), {});
+    }
+}
+
 void Guard::handle(Procedure procedure, const Failure& failure, const FailureSteps& steps) {
     try {
         if (steps.beforeReport) {

@@ -36,6 +36,9 @@ class Guard {
     // program goes on.
     void reportEscaped(std::string_view where, const std::exception& failure);
     ErrorReports& reports() { return reports_; }
+    // A failure of a call the procedure handed on, told after the procedure returned:
+    // reported as if the procedure had met it.
+    void reportLate(Procedure procedure, const std::exception_ptr& failure);
 
     template <class Body>
     void run(Procedure procedure, Body&& body, const FailureSteps& steps = {}) {

@@ -364,9 +364,34 @@ struct FakeWavPlayer : WavPlayer, Recorder {
 struct FakeJaws : JawsApi, Recorder {
     using Recorder::Recorder;
     void JFWSayString(std::string_view text, bool interrupt) override {
-        t.record((interrupt ? "speak! " : "speak ") + quoted(text));
+        call(SpeechCall::Say, (interrupt ? "speak! " : "speak ") + quoted(text));
     }
-    void JFWStopSpeech() override { t.record("stop"); }
+    void JFWStopSpeech() override { call(SpeechCall::Stop, "stop"); }
+    void onLateFailure(LateFailureHandler handler) override { lateFailures = std::move(handler); }
+    // `late`: calls are handed on, as to speech-dispatcher, and a failure is told once the
+    // scene lets the service answer.
+    void call(SpeechCall kind, const std::string& line) {
+        FailureTeller tell = late ? lateFailures(kind) : FailureTeller();
+        try {
+            t.record(line);
+        } catch (...) {
+            if (!late) {
+                throw;
+            }
+            if (tell) {
+                pending.push_back([tell, failure = std::current_exception()] { tell(failure); });
+            }
+        }
+    }
+    void answer() {
+        t.record("speech answers");
+        for (auto& told : std::exchange(pending, {})) {
+            told();
+        }
+    }
+    bool late = false;
+    LateFailureHandler lateFailures;
+    std::vector<std::function<void()>> pending;
 };
 
 struct FakeAutomation : AutomationObjects, Recorder {

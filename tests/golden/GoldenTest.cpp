@@ -114,6 +114,8 @@ struct Scene {
             r.window.unload();
         } else if (verb == "sounds") {
             rest == "late" ? void(r.wav.late = true) : r.wav.begin();
+        } else if (verb == "speech") {
+            rest == "late" ? void(r.jaws.late = true) : r.jaws.answer();
         } else if (verb == "wait") {
             r.timers.advance(std::stoll(rest));
         } else if (verb == "answer") {

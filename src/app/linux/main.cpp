@@ -34,8 +34,11 @@ int main(int argc, char** argv) {
             qt::Desktop::escapedOnAnyThread("PlaySound", failure);
         },
         qt::Desktop::post);
-    speechd::SpeechdJawsApi jaws(latency.get());
-    speechd::SpeechdAutomationObjects automation(latency.get());
+    const auto onUserInterface = [](std::function<void()> call) {
+        qt::Desktop::post(std::chrono::microseconds(0), std::move(call));
+    };
+    speechd::SpeechdJawsApi jaws(latency.get(), onUserInterface);
+    speechd::SpeechdAutomationObjects automation(latency.get(), onUserInterface);
     qt::ReaderDialogQt readerDialog;
     qt::AboutBoxQt aboutBox([&window] { return &window; });
     RealClock clock;

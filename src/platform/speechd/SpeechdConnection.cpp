@@ -10,7 +10,6 @@
 #include <cstdlib>
 #include <mutex>
 
-#include "platform/probe/LatencyLog.h"
 #include "support/Failure.h"
 
 namespace marivox::speechd {
@@ -44,8 +43,8 @@ std::string speechServiceAddress() {
     return address != nullptr && *address != '\0' ? address : "the default address";
 }
 
-SpeechdConnection::SpeechdConnection(std::string clientName, probe::LatencyLog* latency)
-    : clientName_(std::move(clientName)), latency_(latency), client_(std::make_unique<Client>()) {
+SpeechdConnection::SpeechdConnection(std::string clientName)
+    : clientName_(std::move(clientName)), client_(std::make_unique<Client>()) {
     ignoreBrokenPipes();
 }
 
@@ -93,13 +92,7 @@ void SpeechdConnection::connect() {
 void SpeechdConnection::say(std::string_view text) {
     connect();
     const std::string terminated(text);
-    if (latency_ != nullptr) {
-        latency_->speechHandedOver();
-    }
     const int result = spd_say(client_->connection, SPD_MESSAGE, terminated.c_str());
-    if (latency_ != nullptr) {
-        latency_->speechDone();
-    }
     if (result < 0) {
         fail("did not take the text; the connection was lost");
     }

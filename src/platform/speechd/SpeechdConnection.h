@@ -6,10 +6,6 @@
 #include <string>
 #include <string_view>
 
-namespace marivox::probe {
-class LatencyLog;
-}
-
 namespace marivox::speechd {
 
 // One client connection to speech-dispatcher, the speech service Orca uses. It connects on
@@ -17,8 +13,7 @@ namespace marivox::speechd {
 // failure is thrown as a Failure a blind player can act on; none blocks for long.
 class SpeechdConnection {
   public:
-    explicit SpeechdConnection(std::string clientName = "marivox",
-                               probe::LatencyLog* latency = nullptr);
+    explicit SpeechdConnection(std::string clientName = "marivox");
     ~SpeechdConnection();
     SpeechdConnection(const SpeechdConnection&) = delete;
     SpeechdConnection& operator=(const SpeechdConnection&) = delete;
@@ -36,7 +31,6 @@ class SpeechdConnection {
 
     struct Client;  // libspeechd's connection, kept out of this header
     std::string clientName_;
-    probe::LatencyLog* latency_;
     std::unique_ptr<Client> client_;
     bool saidSinceCancel_ = true;  // until a stop, assume something may still be speaking
 };

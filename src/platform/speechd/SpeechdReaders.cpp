@@ -13,27 +13,33 @@ constexpr std::string_view kSpeechClass = "GWSpeak.Speak";
 
 class SpeechdSpeechObject : public SpeechAutomationObject {
   public:
-    explicit SpeechdSpeechObject(probe::LatencyLog* latency) : connection_("marivox", latency) {
-        connection_.connect();
+    SpeechdSpeechObject(probe::LatencyLog* latency, SpeechdQueue::Post post,
+                        LateFailureHandler lateFailure)
+        : queue_("marivox", latency, std::move(post)) {
+        queue_.connectNow();
+        queue_.onLateFailure(std::move(lateFailure));
     }
-    void SpeakString(std::string_view text) override { connection_.say(text); }
-    void Silence() override { connection_.cancel(); }
+    void SpeakString(std::string_view text) override { queue_.say(text); }
+    void Silence() override { queue_.cancel(); }
+    void onLateFailure(LateFailureHandler handler) override {
+        queue_.onLateFailure(std::move(handler));
+    }
 
   private:
-    SpeechdConnection connection_;
+    SpeechdQueue queue_;
 };
 
 }  // namespace
 
 void SpeechdJawsApi::JFWSayString(std::string_view text, bool interrupt) {
     if (interrupt) {
-        connection_.cancel();
+        queue_.cancel();
     }
-    connection_.say(text);
+    queue_.say(text);
 }
 
 void SpeechdJawsApi::JFWStopSpeech() {
-    connection_.cancel();
+    queue_.cancel();
 }
 
 std::unique_ptr<SpeechAutomationObject> SpeechdAutomationObjects::CreateObject(
@@ -43,7 +49,7 @@ std::unique_ptr<SpeechAutomationObject> SpeechdAutomationObjects::CreateObject(
                       "The speech object \"" + std::string(className) + "\" is not available");
     }
     try {
-        return std::make_unique<SpeechdSpeechObject>(latency_);
+        return std::make_unique<SpeechdSpeechObject>(latency_, post_, lateFailure_);
     } catch (const Failure& failure) {
         throw Failure(FailureNumber::SpeechObjectCreation,
                       "Window-Eyes speech could not be started. " + failure.description());
