@@ -400,10 +400,12 @@ class WithOrca(OrcaBeside):
             self.orca_reads(fragment, heard)
             self.session.keys(answer)
             # With no window manager to give the game window the focus back, the test does,
-            # and sends the next command once the window is active again.
+            # and sends the next command once the window or its board has it again.
             self.session.give_focus(self.window)
-            self.assertTrue(harness.wait_until(
-                lambda: "frame|Marivox" in self.session.focused(), 10), self.session.focused())
+            self.assertTrue(harness.wait_until(lambda: [
+                f for f in self.session.focused()
+                if f == "frame|Marivox" or f.startswith("table cell|")], 10),
+                self.session.focused())
         self.assertIsNone(self.session.orca.poll())  # Orca is still running
         self.assertIsNone(self.session.game.poll())
 
