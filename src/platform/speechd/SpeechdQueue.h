@@ -28,7 +28,8 @@ class SpeechdQueue {
     using Post = std::function<void(std::function<void()>)>;
 
     SpeechdQueue(std::string clientName, probe::LatencyLog* latency, Post post);
-    // Makes what is still queued, telling no one of its failures, and stops the thread.
+    // Makes what is still queued, up to the first call that fails (told to no one: the
+    // program is ending), and ends the thread.
     ~SpeechdQueue();
     SpeechdQueue(const SpeechdQueue&) = delete;
     SpeechdQueue& operator=(const SpeechdQueue&) = delete;
