@@ -17,7 +17,6 @@ namespace {
 
 constexpr std::string_view kMissText = " was a miss  ";
 constexpr std::string_view kRepeatMissText = " was already targeted, and was a miss  ";
-constexpr std::string_view kMissMark = "M";
 
 }  // namespace
 

@@ -7,6 +7,9 @@
 
 namespace marivox {
 
+// The board's mark of a cell where the player's shot missed.
+inline constexpr std::string_view kMissMark = "M";
+
 class GridControl;
 class Guard;
 class Sounds;

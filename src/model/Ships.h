@@ -43,6 +43,8 @@ struct ShipInfo {
     // The score: the computer's ship sunk by the player, the player's sunk by the computer.
     std::string_view statusHalShipText;
     std::string_view statusMyShipText;
+    // The ship's name in the board and fleet reviews.
+    std::string_view name;
 };
 
 inline constexpr std::array<ShipInfo, 6> kShips{{
@@ -50,26 +52,27 @@ inline constexpr std::array<ShipInfo, 6> kShips{{
      " You sank my air craft carrier  ",
      " was already targeted, and was a hit on my air craft carrier  ",
      " was a hit on your air craft carrier  ", " I sank your air craft carrier  ",
-     " hit air craft carrier  ", " my air craft carrier ", " your air craft carrier "},
+     " hit air craft carrier  ", " my air craft carrier ", " your air craft carrier ",
+     "air craft carrier"},
     {ShipType::Cruiser, 4, 12, 22, "C", " was a hit on my cruiser  ", " You sank my cruiser  ",
      " was already targeted, and was a hit on my cruiser  ", " was a hit on your cruiser  ",
-     " I sank your cruiser  ", " hit cruiser  ", " my cruiser ", " your cruiser "},
+     " I sank your cruiser  ", " hit cruiser  ", " my cruiser ", " your cruiser ", "cruiser"},
     {ShipType::Destroyer, 4, 13, 23, "D", " was a hit on my destroyer  ",
      " You sank my destroyer  ", " was already targeted, and was a hit on my destroyer  ",
      " was a hit on your destroyer  ", " I sank your destroyer  ", " hit destroyer  ",
-     " my destroyer ", " your destroyer "},
+     " my destroyer ", " your destroyer ", "destroyer"},
     {ShipType::Battleship, 4, 11, 21, "B", " was a hit on my Battle ship  ",
      " You sank my Battle ship  ", " was already targeted, and was a hit on my battle ship  ",
      " was a hit on your Battle ship  ", " I sank your Battle ship  ", " hit battleship  ",
-     " my battleship ", " your battleship "},
+     " my battleship ", " your battleship ", "battleship"},
     {ShipType::PatrolBoat, 3, 14, 24, "P", " was a hit on my patrol boat  ",
      " You sank my patrol boat  ", " was already targeted, and was a hit on my patrol boat  ",
      " was a hit on your patrol boat  ", " I sank your patrol boat  ", " hit patrol boat  ",
-     " my patrol boat ", " your patrol boat "},
+     " my patrol boat ", " your patrol boat ", "patrol boat"},
     {ShipType::Submarine, 2, 15, 25, "S", " was a hit on my submarine  ",
      " You sank my submarine  ", " was already targeted, and was a hit on my submarine  ",
      " was a hit on your submarine  ", " I sank your submarine  ", " hit submarine  ",
-     " my submarine ", " your submarine "},
+     " my submarine ", " your submarine ", "submarine"},
 }};
 
 constexpr const ShipInfo& shipInfo(ShipType type) {

@@ -24,7 +24,7 @@ struct MenuItem {
 struct Menu {
     const char* name;
     const char* caption;
-    std::array<MenuItem, 3> items;  // a menu of two leaves its last one empty
+    std::array<MenuItem, 6> items;  // a shorter menu leaves its last ones empty
 };
 
 // Only New Game has a shortcut of its own (Ctrl+N); the keys named in other captions are the
@@ -39,12 +39,14 @@ inline constexpr std::array<Menu, 3> kMenus{{
      "&Options",
      {{{"mnuOptionsStatus", "&Speak Status - F2", &GameScreenEvents::mnuOptionsStatus_Click},
        {"mnuOptionsShoot", "S&hoot - Enter", &GameScreenEvents::mnuOptionsShoot_Click},
-       {}}}},
+       {"mnuOptionsRow", "Read &Row - F3", &GameScreenEvents::mnuOptionsRow_Click},
+       {"mnuOptionsColumn", "Read &Column - F4", &GameScreenEvents::mnuOptionsColumn_Click},
+       {"mnuOptionsRepeat", "Re&peat - F5", &GameScreenEvents::mnuOptionsRepeat_Click},
+       {"mnuOptionsFleet", "Your &Fleet - F6", &GameScreenEvents::mnuOptionsFleet_Click}}}},
     {"mnuHelp",
      "&Help",
      {{{"mnuHelpContents", "&Help Topics F1", &GameScreenEvents::mnuHelpContents_Click},
-       {"mnuHelpAbout", "&About Marivox", &GameScreenEvents::mnuHelpAbout_Click},
-       {}}}},
+       {"mnuHelpAbout", "&About Marivox", &GameScreenEvents::mnuHelpAbout_Click}}}},
 }};
 
 struct Label {

@@ -25,6 +25,12 @@ class GameScreenEvents {
     virtual void mnuGameExit_Click() = 0;
     virtual void mnuOptionsStatus_Click() = 0;
     virtual void mnuOptionsShoot_Click() = 0;
+    // Reviewing without moving: the cursor's row and column, the last things said, the
+    // player's own fleet.
+    virtual void mnuOptionsRow_Click() = 0;
+    virtual void mnuOptionsColumn_Click() = 0;
+    virtual void mnuOptionsRepeat_Click() = 0;
+    virtual void mnuOptionsFleet_Click() = 0;
     virtual void mnuHelpContents_Click() = 0;
     virtual void mnuHelpAbout_Click() = 0;
     // The platform's help key (F1), which opens the application's help file.

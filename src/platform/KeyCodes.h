@@ -26,10 +26,16 @@ inline constexpr std::int16_t Right = 39;
 inline constexpr std::int16_t Down = 40;
 inline constexpr std::int16_t Insert = 45;
 inline constexpr std::int16_t Delete = 46;
-// Digits are 48..57 and letters 65..90, as their upper-case character codes.
+// Digits are 48..57 and letters 65..90, as their upper-case character codes; the keypad's
+// digits with Num Lock on are 96..105.
+inline constexpr std::int16_t Numpad0 = 96;
 inline constexpr std::int16_t F1 = 112;
 inline constexpr std::int16_t F2 = 113;
-// F3..F12 follow F2 in order, up to 123.
+inline constexpr std::int16_t F3 = 114;
+inline constexpr std::int16_t F4 = 115;
+inline constexpr std::int16_t F5 = 116;
+inline constexpr std::int16_t F6 = 117;
+// F7..F12 follow in order, up to 123.
 }  // namespace KeyCode
 
 // Shift state bits passed beside a key code.

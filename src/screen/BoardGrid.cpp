@@ -72,7 +72,7 @@ void GameScreen::LoadGrid() {
 void GameScreen::flex_RowColChange() {
     guard_.run(Procedure::flex_RowColChange, [&] {
         // Silent while a game is being set up and while the computer has the turn.
-        if (state_.SettingUp == kFalse && state_.TurnState == kPlayersTurn) {
+        if (state_.SettingUp == kFalse && state_.TurnState == kPlayersTurn && !quietMoves_) {
             speech_.StopSpeech();
             SpeakCurrentCell();
         }

@@ -1,16 +1,19 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <utility>
+
 #include "model/CellName.h"
 #include "model/GameState.h"
 #include "platform/KeyCodes.h"
 #include "screen/GameScreen.h"
 #include "speech/Speech.h"
+#include "speech/SpokenHistory.h"
 #include "support/Guard.h"
 
 namespace marivox {
 
 // Sees every key before the grid does and never swallows it: arrows still move the cursor.
-void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t /*shift*/) {
+void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t shift) {
     guard_.run(Procedure::Form_KeyDown, [&] {
         if (state_.TurnState != kPlayersTurn) {
             return;
@@ -21,10 +24,24 @@ void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t /*shift*/) {
         if (tmrTimer2_->isOn()) {
             tmrTimer2_->switchOff();
         }
+        const std::optional<int> typedRow = std::exchange(typedRow_, std::nullopt);
+        if (keyCode != KeyCode::F5) {
+            services_.spoken.restartRepeats();
+        }
         if (keyCode == KeyCode::Return) {
             mnuOptionsShoot_Click();
         } else if (keyCode == KeyCode::F2) {
             mnuOptionsStatus_Click();
+        } else if (keyCode == KeyCode::F3) {
+            mnuOptionsRow_Click();
+        } else if (keyCode == KeyCode::F4) {
+            mnuOptionsColumn_Click();
+        } else if (keyCode == KeyCode::F5) {
+            mnuOptionsRepeat_Click();
+        } else if (keyCode == KeyCode::F6) {
+            mnuOptionsFleet_Click();
+        } else {
+            typeCellName(keyCode, shift, typedRow);
         }
     });
 }
@@ -41,6 +58,7 @@ void GameScreen::mnuOptionsShoot_Click() {
 void GameScreen::mnuOptionsStatus_Click() {
     guard_.run(Procedure::mnuOptionsStatus_Click, [&] {
         speech_.StopSpeech();
+        const SpokenHistory::OneThingSaid score(services_.spoken);
         SpeakStatus();
     });
 }

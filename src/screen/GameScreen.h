@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "hal/HalShots.h"
@@ -26,6 +27,7 @@ class RandomSource;
 class ScreenReaderChoice;
 class Sounds;
 class Speech;
+class SpokenHistory;
 struct GameState;
 struct ScreenReaderState;
 
@@ -34,6 +36,7 @@ struct GameScreenServices {
     GameState& state;
     Guard& guard;
     Speech& speech;
+    SpokenHistory& spoken;
     Sounds& sounds;
     RandomSource& random;
     ScreenReaderState& reader;
@@ -69,6 +72,10 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     void mnuGameExit_Click() override;
     void mnuOptionsStatus_Click() override;
     void mnuOptionsShoot_Click() override;
+    void mnuOptionsRow_Click() override;
+    void mnuOptionsColumn_Click() override;
+    void mnuOptionsRepeat_Click() override;
+    void mnuOptionsFleet_Click() override;
     void mnuHelpContents_Click() override;
     void mnuHelpAbout_Click() override;
     void helpKey() override;
@@ -96,6 +103,9 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     // Asks whether to play again after a win; No ends the program at once.
     void askToPlayAgain(std::string_view question);
     void releaseWindowEyesIfChosen();
+    // A typed cell name: a row letter waits for its column digit; anything else drops it.
+    void typeCellName(std::int16_t keyCode, std::int16_t shift, std::optional<int> typedRow);
+    void jumpTo(int row, int col);
     void runTimerHandler(Procedure procedure, OneShotTimer& timer,
                          const std::function<void()>& body);
 
@@ -114,6 +124,8 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     PlayerShots playerShots_;
     TargetSelection targeting_;
     HalShots halShots_;
+    std::optional<int> typedRow_;
+    bool quietMoves_ = false;
 };
 
 }  // namespace marivox

@@ -13,11 +13,12 @@ System::System(const PlatformPorts& p, std::uint64_t seed)
       speech(reader, p.jaws, guard),
       sounds(p.wavPlayer, p.application, p.sleeper, guard),
       heard(speech, sounds, p.wavPlayer, p.timers),
+      spoken(heard),
       readerChoice(reader, p.settings, p.automation, p.readerDialog, p.boxes, guard),
       help(p.application, p.shell, p.boxes, guard),
       about(p.aboutBox, p.application),
-      screen({state, guard, heard, heard, random, reader, readerChoice, help, about, p.window,
-              p.timers, p.boxes, p.application}) {
+      screen({state, guard, spoken, spoken, heard, random, reader, readerChoice, help, about,
+              p.window, p.timers, p.boxes, p.application}) {
     reports.speakThrough([this](std::string_view text) { heard.Speak(text); });
     p.jaws.onLateFailure(speech.lateFailures());
     p.automation.onLateFailure(speech.lateFailures());

@@ -12,6 +12,7 @@
 #include "speech/ScreenReaderSpeech.h"
 #include "speech/ScreenReaderState.h"
 #include "speech/SpeechAfterSounds.h"
+#include "speech/SpokenHistory.h"
 #include "speech/WavSounds.h"
 #include "support/ErrorReports.h"
 #include "support/Guard.h"
@@ -64,6 +65,7 @@ class System {
     ScreenReaderSpeech speech;
     WavSounds sounds;
     SpeechAfterSounds heard;  // the speech and sounds the rules use
+    SpokenHistory spoken;     // the rules' speech, kept for the player to hear again
     ScreenReaderChoice readerChoice;
     HelpCommands help;
     AboutForm about;

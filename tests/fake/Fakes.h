@@ -188,8 +188,8 @@ struct FakeWindow : GameWindow, Recorder {
     GridControl& grid() override { return board; }
     // A key as the player presses it: the window hears it first, then the board takes an
     // arrow; F1 also opens the help, as the platform's help key.
-    void press(std::int16_t key) {
-        events->Form_KeyDown(key, 0);
+    void press(std::int16_t key, std::int16_t shift = 0) {
+        events->Form_KeyDown(key, shift);
         const int down = key == KeyCode::Down ? 1 : key == KeyCode::Up ? -1 : 0;
         const int right = key == KeyCode::Right ? 1 : key == KeyCode::Left ? -1 : 0;
         board.playerMovesTo(std::clamp(board.row() + down, 1, 9),

@@ -43,13 +43,19 @@ const std::map<std::string, void (GameScreenEvents::*)()> kMenu{
     {"mnuGameExit", &GameScreenEvents::mnuGameExit_Click},
     {"mnuOptionsStatus", &GameScreenEvents::mnuOptionsStatus_Click},
     {"mnuOptionsShoot", &GameScreenEvents::mnuOptionsShoot_Click},
+    {"mnuOptionsRow", &GameScreenEvents::mnuOptionsRow_Click},
+    {"mnuOptionsColumn", &GameScreenEvents::mnuOptionsColumn_Click},
+    {"mnuOptionsRepeat", &GameScreenEvents::mnuOptionsRepeat_Click},
+    {"mnuOptionsFleet", &GameScreenEvents::mnuOptionsFleet_Click},
     {"mnuHelpContents", &GameScreenEvents::mnuHelpContents_Click},
     {"mnuHelpAbout", &GameScreenEvents::mnuHelpAbout_Click}};
 
 const std::map<std::string, std::int16_t> kKeys{
-    {"Enter", KeyCode::Return}, {"F1", KeyCode::F1},       {"F2", KeyCode::F2},
-    {"Up", KeyCode::Up},        {"Down", KeyCode::Down},   {"Left", KeyCode::Left},
-    {"Right", KeyCode::Right},  {"Shift", KeyCode::Shift}, {"Escape", KeyCode::Escape}};
+    {"Enter", KeyCode::Return}, {"F1", KeyCode::F1},           {"F2", KeyCode::F2},
+    {"Up", KeyCode::Up},        {"Down", KeyCode::Down},       {"Left", KeyCode::Left},
+    {"Right", KeyCode::Right},  {"Shift", KeyCode::Shift},     {"Escape", KeyCode::Escape},
+    {"F3", KeyCode::F3},        {"F4", KeyCode::F4},           {"F5", KeyCode::F5},
+    {"F6", KeyCode::F6},        {"Pad5", KeyCode::Numpad0 + 5}};
 
 // The text of a line that writes a cell's text, or "".
 std::string cellText(const std::vector<std::string>& lines, std::size_t i) {
@@ -103,7 +109,10 @@ struct Scene {
         } else if (verb == "start") {
             r.system.Main();
         } else if (verb == "key") {
-            r.window.press(kKeys.contains(rest) ? kKeys.at(rest) : rest.at(0));
+            const bool alt = rest.starts_with("Alt+");
+            const std::string key = alt ? rest.substr(4) : rest;
+            r.window.press(kKeys.contains(key) ? kKeys.at(key) : key.at(0),
+                           alt ? ShiftState::Alt : 0);
         } else if (verb == "move" || verb == "click") {
             const auto [row, col] = cellNamed(rest);
             verb == "move" ? r.window.board.playerMovesTo(row, col)
@@ -305,7 +314,8 @@ TEST(Soak, RandomPlayKeepsEveryInvariantGameAfterGame) {
     const auto scriptTheReaderDialog = [&] {
         rig->dialog.steps = {roll(3) - 2, roll(3) - 2, roll(3) - 2, roll(1)};  // -2: close box
     };
-    const char* keys[] = {"Up", "Down", "Left", "Right", "Enter", "F2", "Shift", "A", "F1"};
+    const char* keys[] = {"Up", "Down", "Left", "Right", "Enter", "F2", "Shift", "A",
+                          "F1", "F3",   "F4",   "F5",    "F6",    "E",  "5"};
     while (games < fromEnvironment("MARIVOX_SOAK_GAMES", 2000)) {
         if (!rig || rig->app.ended || rig->window.closed) {
             rig = std::make_unique<Rig>(random());
@@ -323,7 +333,7 @@ TEST(Soak, RandomPlayKeepsEveryInvariantGameAfterGame) {
         const int event = roll(999);
         scriptTheReaderDialog();
         if (event < 450) {
-            const std::string key = keys[event < 360 ? event % 5 : event % 9];
+            const std::string key = keys[event < 360 ? event % 5 : event % 15];
             rig->window.press(kKeys.contains(key) ? kKeys.at(key) : key[0]);
         } else if (event < 730) {
             rig->timers.advance(1 + roll(2999));
@@ -331,8 +341,8 @@ TEST(Soak, RandomPlayKeepsEveryInvariantGameAfterGame) {
             rig->window.board.playerClicks(1 + roll(8), 1 + roll(8));
         } else if (event == 994) {
             rig->window.unload();
-        } else {  // the menu: mostly Shoot or Status, now and then another command
-            const int item = event < 994 ? 5 + event % 2 : event - 995;
+        } else {  // the menu: mostly Options, now and then another command
+            const int item = event < 994 ? 5 + event % 6 : event - 995;
             (rig->system.screen.*std::next(kMenu.begin(), item)->second)();
         }
         const Lines lines = std::exchange(rig->t.lines, {});

@@ -81,6 +81,10 @@ struct Screen : GameScreenEvents, GridEvents {
     void mnuGameExit_Click() override {}
     void mnuOptionsStatus_Click() override {}
     void mnuOptionsShoot_Click() override {}
+    void mnuOptionsRow_Click() override {}
+    void mnuOptionsColumn_Click() override {}
+    void mnuOptionsRepeat_Click() override {}
+    void mnuOptionsFleet_Click() override {}
     void mnuHelpContents_Click() override {}
     void mnuHelpAbout_Click() override {}
     void helpKey() override { hear("help"); }

@@ -22,7 +22,8 @@ constexpr UINT kFirstCommand = 100;
 const layout::MenuItem* itemOf(UINT command) {
     const UINT menu = (command - kFirstCommand) / 10;
     const UINT item = (command - kFirstCommand) % 10;
-    if (command < kFirstCommand || menu >= layout::kMenus.size() || item >= 3) {
+    if (command < kFirstCommand || menu >= layout::kMenus.size() ||
+        item >= layout::kMenus[menu].items.size()) {
         return nullptr;
     }
     const layout::MenuItem& found = layout::kMenus[menu].items[item];
