@@ -62,6 +62,7 @@ class Session:
         self.recording = bytearray()
         self.arrivals = []  # (bytes recorded, when they had all arrived)
         self._recorder = None
+        self.record_latency_ms = 20  # the null sink mixes up to this far ahead of real time
         self.started_at = time.time()  # until the game starts, the session's start
 
     # -- the session --------------------------------------------------------------------
@@ -153,7 +154,8 @@ class Session:
         # The null sink keeps real time; its monitor is what a listener would hear.
         recorder = self._spawn("parec", [
             "parec", "--raw", "--device=recorder.monitor", "--format=s16le",
-            "--rate=%d" % SAMPLE_RATE, "--channels=1", "--latency-msec=20",
+            "--rate=%d" % SAMPLE_RATE, "--channels=1",
+            "--latency-msec=%d" % self.record_latency_ms,
         ], env=self._base_env(), stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
         self._recorder = threading.Thread(target=self._record, args=(recorder.stdout,),
                                           daemon=True)
