@@ -96,9 +96,9 @@ std::vector<std::string> fleetOf(const Ocean& ocean) {
                 const std::int16_t code = ocean(row, col);
                 if (code == ship.intactCode || code == ship.hitCode) {
                     cells.push_back(shortName(row, col));
-                }
-                if (code == ship.hitCode) {
-                    hits.push_back(shortName(row, col));
+                    if (code == ship.hitCode) {
+                        hits.push_back(cells.back());
+                    }
                 }
             }
         }

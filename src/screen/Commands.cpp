@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <utility>
-
 #include "model/CellName.h"
 #include "model/GameState.h"
 #include "platform/KeyCodes.h"
@@ -24,7 +22,7 @@ void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t shift) {
         if (tmrTimer2_->isOn()) {
             tmrTimer2_->switchOff();
         }
-        const std::optional<int> typedRow = std::exchange(typedRow_, std::nullopt);
+        typeCellName(keyCode, shift);
         if (keyCode != KeyCode::F5) {
             services_.spoken.restartRepeats();
         }
@@ -40,8 +38,6 @@ void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t shift) {
             mnuOptionsRepeat_Click();
         } else if (keyCode == KeyCode::F6) {
             mnuOptionsFleet_Click();
-        } else {
-            typeCellName(keyCode, shift, typedRow);
         }
     });
 }

@@ -104,7 +104,7 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     void askToPlayAgain(std::string_view question);
     void releaseWindowEyesIfChosen();
     // A typed cell name: a row letter waits for its column digit; anything else drops it.
-    void typeCellName(std::int16_t keyCode, std::int16_t shift, std::optional<int> typedRow);
+    void typeCellName(std::int16_t keyCode, std::int16_t shift);
     void jumpTo(int row, int col);
     void runTimerHandler(Procedure procedure, OneShotTimer& timer,
                          const std::function<void()>& body);

@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <utility>
+
 #include "model/GameState.h"
 #include "platform/KeyCodes.h"
 #include "screen/BoardReview.h"
@@ -43,23 +45,25 @@ void GameScreen::mnuOptionsFleet_Click() {
     });
 }
 
-void GameScreen::typeCellName(std::int16_t keyCode, std::int16_t shift,
-                              std::optional<int> typedRow) {
-    const bool modifier =
-        keyCode == KeyCode::Shift || keyCode == KeyCode::Control || keyCode == KeyCode::Menu;
+void GameScreen::typeCellName(std::int16_t keyCode, std::int16_t shift) {
+    // Shift held for a capital letter keeps the letter waiting.
+    if (keyCode == KeyCode::Shift || keyCode == KeyCode::Control || keyCode == KeyCode::Menu) {
+        return;
+    }
+    const std::optional<int> typedRow = std::exchange(typedRow_, std::nullopt);
     // Alt+H opens the Help menu, and Ctrl or Alt with a digit is nobody's cell name.
-    const bool plain = (shift & (ShiftState::Control | ShiftState::Alt)) == 0;
+    if ((shift & (ShiftState::Control | ShiftState::Alt)) != 0) {
+        return;
+    }
     int digit = 0;
     if (keyCode > '0' && keyCode <= '9') {
         digit = keyCode - '0';
     } else if (keyCode > KeyCode::Numpad0 && keyCode <= KeyCode::Numpad0 + 9) {
         digit = keyCode - KeyCode::Numpad0;
     }
-    if (modifier) {
-        typedRow_ = typedRow;  // Shift held for a capital letter keeps the letter waiting
-    } else if (plain && keyCode >= 'A' && keyCode <= 'I') {
+    if (keyCode >= 'A' && keyCode <= 'I') {
         typedRow_ = keyCode - 'A' + 1;
-    } else if (plain && typedRow && digit > 0) {
+    } else if (typedRow && digit > 0) {
         jumpTo(*typedRow, digit);
     }
 }

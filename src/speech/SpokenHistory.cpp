@@ -7,26 +7,28 @@
 namespace marivox {
 
 void SpokenHistory::Speak(std::string_view text) {
-    if (joining_ && joinedAny_) {
-        said_.front().emplace_back(text);
-    } else {
-        said_.push_front({std::string(text)});
-        if (said_.size() > kKept) {
-            said_.pop_back();
-        }
-        joinedAny_ = joining_;
+    if (!joining_) {
+        said_.emplace_front();
+    }
+    said_.front().emplace_back(text);
+    // Only once something is said: an empty report must not push the oldest out.
+    if (said_.size() > kKept) {
+        said_.pop_back();
     }
     back_ = 0;
     speech_.Speak(text);
 }
 
 SpokenHistory::OneThingSaid::OneThingSaid(SpokenHistory& history) : history_(history) {
+    history_.said_.emplace_front();
     history_.joining_ = true;
-    history_.joinedAny_ = false;
 }
 
 SpokenHistory::OneThingSaid::~OneThingSaid() {
     history_.joining_ = false;
+    if (history_.said_.front().empty()) {
+        history_.said_.pop_front();
+    }
 }
 
 void SpokenHistory::repeatOneBack() {

@@ -25,7 +25,7 @@ class SpokenHistory : public Speech {
     void StopSpeech() override { speech_.StopSpeech(); }
     void SilenceWaiting() override { speech_.SilenceWaiting(); }
 
-    // While one lives, everything spoken is kept as a single thing said.
+    // While one lives, everything spoken is kept as a single thing said (none if nothing is).
     class OneThingSaid {
       public:
         explicit OneThingSaid(SpokenHistory& history);
@@ -47,8 +47,7 @@ class SpokenHistory : public Speech {
     Speech& speech_;
     std::deque<std::vector<std::string>> said_;  // the latest at the front
     std::size_t back_ = 0;
-    bool joining_ = false;
-    bool joinedAny_ = false;
+    bool joining_ = false;  // speech goes into the entry a OneThingSaid opened
 };
 
 }  // namespace marivox
