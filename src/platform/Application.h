@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace marivox {
@@ -25,6 +26,10 @@ class Application {
     virtual std::string title() const = 0;
     virtual void setTitle(std::string title) = 0;
     virtual Version version() const = 0;
+    // Holds the caller until `done` holds, while the event loop goes on without the player's
+    // input: timers tick and calls posted from other threads run, keys and clicks wait their
+    // turn. A timer must be sure to make `done` hold in the end.
+    virtual void waitUntil(const std::function<bool()>& done) = 0;
     // Ends the program without running any window's unload handler. The caller returns
     // normally afterwards and must do nothing more.
     virtual void endNow() = 0;

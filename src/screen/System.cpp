@@ -6,19 +6,23 @@ namespace marivox {
 
 System::System(const PlatformPorts& p, std::uint64_t seed)
     : ports(p),
-      reports(p.boxes, p.application),
+      // `heard` is made further down; these only keep a reference to it until they open.
+      boxes(p.boxes, heard),
+      readerDialog(p.readerDialog, heard),
+      aboutBox(p.aboutBox, heard),
+      reports(boxes, p.application),
       guard(reports),
       generator(p.clock, seed),
       random(generator, guard),
       speech(reader, p.jaws, guard),
       sounds(p.wavPlayer, p.application, p.sleeper, guard),
-      heard(speech, sounds, p.wavPlayer, p.timers),
+      heard(speech, sounds, p.wavPlayer, p.timers, p.application, reports),
       spoken(heard),
-      readerChoice(reader, p.settings, p.automation, p.readerDialog, p.boxes, guard),
-      help(p.application, p.shell, p.boxes, guard),
-      about(p.aboutBox, p.application),
+      readerChoice(reader, p.settings, p.automation, readerDialog, boxes, guard),
+      help(p.application, p.shell, boxes, guard),
+      about(aboutBox, p.application),
       screen({state, guard, spoken, spoken, heard, random, reader, readerChoice, help, about,
-              p.window, p.timers, p.boxes, p.application}) {
+              p.window, p.timers, boxes, p.application}) {
     reports.speakThrough([this](std::string_view text) { heard.Speak(text); });
     p.jaws.onLateFailure(speech.lateFailures());
     p.automation.onLateFailure(speech.lateFailures());

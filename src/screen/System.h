@@ -8,6 +8,7 @@
 #include "model/RandomGenerator.h"
 #include "model/RandomNumbers.h"
 #include "screen/GameScreen.h"
+#include "speech/ModalsAfterSounds.h"
 #include "speech/ScreenReaderChoice.h"
 #include "speech/ScreenReaderSpeech.h"
 #include "speech/ScreenReaderState.h"
@@ -58,6 +59,10 @@ class System {
     PlatformPorts ports;
     GameState state;
     ScreenReaderState reader;
+    // The modal windows as the game opens them: after the sounds and words before them.
+    BoxesAfterSounds boxes;
+    ReaderDialogAfterSounds readerDialog;
+    AboutBoxAfterSounds aboutBox;
     ErrorReports reports;
     Guard guard;
     RandomGenerator generator;

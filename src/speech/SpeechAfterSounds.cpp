@@ -2,34 +2,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "speech/SpeechAfterSounds.h"
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
+#include "platform/Application.h"
 #include "platform/OneShotTimer.h"
 #include "platform/WavPlayer.h"
+#include "support/ErrorReports.h"
 
 namespace marivox {
 namespace {
 
-// Longer than the longest run of sounds the game plays at once (shot, hit, sink).
+// Longer than the longest run of sounds the game plays at once (shot, hit, sink and the
+// fanfare), counted from the last sound asked for.
 constexpr auto kLongestWait = std::chrono::milliseconds(5000);
 
 }  // namespace
 
 SpeechAfterSounds::SpeechAfterSounds(Speech& speech, Sounds& sounds, WavPlayer& player,
-                                     TimerFactory& timers)
+                                     TimerFactory& timers, Application& application,
+                                     ErrorReports& reports)
     : speech_(speech),
       sounds_(sounds),
       player_(player),
-      bound_(timers.createTimer("tmrSoundsHeard", kLongestWait, [this] { release(); })) {}
+      application_(application),
+      reports_(reports),
+      bound_(
+          timers.createTimer("tmrSoundsHeard", kLongestWait, [this] { heardUpTo(requested_); })) {}
 
 SpeechAfterSounds::~SpeechAfterSounds() {
     *alive_ = false;
 }
 
 void SpeechAfterSounds::Speak(std::string_view text) {
-    if (waiting_) {
-        held_.emplace_back(text);
+    if (begun_ < requested_) {
+        held_.push_back({std::string(text), requested_, reports_.speakingReport()});
     } else {
         speech_.Speak(text);
     }
@@ -37,28 +45,39 @@ void SpeechAfterSounds::Speak(std::string_view text) {
 
 void SpeechAfterSounds::PlaySound(std::string_view name) {
     sounds_.PlaySound(name);
-    const auto sound = ++latestSound_;
-    waiting_ = true;
-    // Only the notice for the latest sound releases the words: earlier ones are followed
-    // by sounds still to begin. The notice may come at once, before this returns.
+    const auto sound = ++requested_;
+    // The notice may come at once, before this returns.
     player_.whenAcceptedSoundsHeard([this, sound, alive = alive_] {
-        if (*alive && sound == latestSound_) {
-            release();
+        if (*alive) {
+            heardUpTo(sound);
         }
     });
-    if (waiting_) {
+    if (begun_ < requested_) {
         bound_->switchOff();
         bound_->switchOn();
     }
 }
 
-void SpeechAfterSounds::release() {
-    if (bound_->isOn()) {
+void SpeechAfterSounds::awaitSoundsHeard() {
+    if (const auto last = requested_; begun_ < last) {
+        application_.waitUntil([this, last] { return begun_ >= last; });
+    }
+}
+
+void SpeechAfterSounds::heardUpTo(std::uint64_t sound) {
+    begun_ = std::max(begun_, sound);
+    if (begun_ >= requested_ && bound_->isOn()) {
         bound_->switchOff();
     }
-    waiting_ = false;
-    for (const auto& text : std::exchange(held_, {})) {
-        speech_.Speak(text);
+    // Taken off before it is said: saying it may report a failure, whose box waits here too.
+    while (!held_.empty() && held_.front().afterSound <= begun_) {
+        const Held next = std::move(held_.front());
+        held_.pop_front();
+        if (next.reportsOwn) {
+            reports_.sayAsReport([&] { speech_.Speak(next.text); });
+        } else {
+            speech_.Speak(next.text);
+        }
     }
 }
 

@@ -39,14 +39,10 @@ void ErrorReports::ShowError(const std::string& description, const std::string& 
 
 void ErrorReports::showErrorBody(const std::string& description, const std::string& label) {
     if (speak_) {
-        struct SpeakingReport {
-            bool& flag;
-            bool was = flag;
-            explicit SpeakingReport(bool& f) : flag(f) { flag = true; }
-            ~SpeakingReport() { flag = was; }
-        } speaking(speakingReport_);
-        speak_(description);
-        speak_(label);
+        sayAsReport([&] {
+            speak_(description);
+            speak_(label);
+        });
     }
     boxes_.show(description + ";" + label, MsgBoxStyle::OkOnly + MsgBoxStyle::Information,
                 kGameScreenCaption);

@@ -26,6 +26,13 @@ class ErrorReports {
     // While a report speaks and shows its box, speech failures go untold: the report is
     // already telling of one.
     bool speakingReport() const { return speakingReport_; }
+    // Says a report's own words that had to wait (behind sounds) after the report itself:
+    // their failure is still the report's, not a new one to tell.
+    template <class Say>
+    void sayAsReport(Say&& say) {
+        const SpeakingReport speaking(speakingReport_);
+        say();
+    }
 
     void ReportError(std::int32_t number, std::string_view description, std::string_view label);
     void ShowError(const std::string& description, const std::string& label);
@@ -35,6 +42,15 @@ class ErrorReports {
     void report(Procedure procedure, const Failure& failure);
 
   private:
+    struct SpeakingReport {
+        explicit SpeakingReport(bool& flag) : flag_(flag), was_(flag) { flag_ = true; }
+        ~SpeakingReport() { flag_ = was_; }
+        SpeakingReport(const SpeakingReport&) = delete;
+        SpeakingReport& operator=(const SpeakingReport&) = delete;
+        bool& flag_;
+        bool was_;
+    };
+
     void showErrorBody(const std::string& description, const std::string& label);
 
     MessageBoxes& boxes_;

@@ -72,13 +72,34 @@ struct FakeTimers : TimerFactory, Recorder {
     // that blocks, and what falls due fires at the next advance.
     void advance(std::int64_t ms, bool deliver = true) {
         const std::int64_t until = now + ms;
-        for (Timer* next = nextDue(); deliver && !ended && next && next->due.first <= until;
-             next = nextDue()) {
-            now = std::max(now, std::exchange(next->due.first, kNever));  // once a switching on
-            t.record("timer " + next->name + " tick");
-            next->onTick();
+        while (deliver && fireNext(until)) {
         }
-        now = until;
+        now = std::max(now, until);  // what fired may have waited past `until` itself
+    }
+    // Fires what falls due first, if anything does by `until`: a timer, or something the
+    // platform does of its own accord (`at`).
+    bool fireNext(std::int64_t until = kNever - 1) {
+        Timer* timer = nextDue();
+        const auto event = events.begin();
+        const auto timerDue = timer ? timer->due : std::pair(kNever, kNever);
+        const auto eventDue = event != events.end() ? event->first : std::pair(kNever, kNever);
+        if (ended || std::min(timerDue, eventDue).first > until) {
+            return false;
+        }
+        if (timerDue < eventDue) {
+            now = std::max(now, std::exchange(timer->due.first, kNever));  // once a switching on
+            t.record("timer " + timer->name + " tick");
+            timer->onTick();
+        } else {
+            now = std::max(now, eventDue.first);
+            const auto what = std::move(event->second);
+            events.erase(event);
+            what();
+        }
+        return true;
+    }
+    void at(std::int64_t when, std::function<void()> what) {
+        events.emplace(std::pair(when, ++switches), std::move(what));
     }
     Timer* nextDue() const {
         Timer* next = nullptr;
@@ -90,6 +111,7 @@ struct FakeTimers : TimerFactory, Recorder {
 
     static constexpr std::int64_t kNever = INT64_MAX;
     std::vector<Timer*> timers;
+    std::map<std::pair<std::int64_t, std::int64_t>, std::function<void()>> events;
     std::int64_t now = 0, switches = 0;
     bool ended = false;
 };
@@ -284,6 +306,11 @@ struct FakeApplication : Application, Recorder {
     std::string title() const override { return name; }
     void setTitle(std::string title) override { name = std::move(title); }
     Version version() const override { return {1, 0, 0}; }
+    // Virtual time runs on to each thing that falls due, until `done` or nothing is left.
+    void waitUntil(const std::function<bool()>& done) override {
+        while (!done() && timers.fireNext()) {
+        }
+    }
     void endNow() override {
         t.record("end program");
         ended = timers.ended = true;
@@ -328,12 +355,15 @@ struct FakeSleeper : Sleeper {
 };
 
 // An output that refuses requests as busy until the game has slept `busyUntil` in all.
+// Sounds begin at once, unless a scene holds them back: until `sounds begin` (`late`), or
+// one after another, each `length` ms long, in virtual time.
 struct FakeWavPlayer : WavPlayer, Recorder {
-    FakeWavPlayer(Transcript& t, FakeSleeper& sleeper) : Recorder(t), sleeper(sleeper) {}
+    FakeWavPlayer(Transcript& t, FakeSleeper& sleeper, FakeTimers& timers)
+        : Recorder(t), sleeper(sleeper), timers(timers) {}
     void open(std::string_view path) override {
-        std::string shown(path);  // the same transcript whatever the platform's separator
-        std::replace(shown.begin(), shown.end(), '\\', '/');
-        t.record("sound " + shown);
+        current = path;  // the same transcript whatever the platform's separator
+        std::replace(current.begin(), current.end(), '\\', '/');
+        t.record("sound " + current);
         opened = sleeper.slept;
     }
     void play(std::int32_t, std::int32_t, bool) override {}
@@ -343,20 +373,38 @@ struct FakeWavPlayer : WavPlayer, Recorder {
             t.record(std::string(busy ? "sound given up" : "sound accepted") + " after " +
                      std::to_string(waited) + " ms busy");
         }
+        if (length > 0 && busy == 0) {
+            const std::int64_t starts = std::max(timers.now, silentFrom);
+            silentFrom = starts + length;
+            timers.at(starts, [this, sound = ++accepted, name = current] {
+                t.record("sound " + name + " begins");
+                begun = sound;
+                std::vector<std::function<void()>> due;
+                std::erase_if(waiting, [&](auto& notice) {
+                    return notice.first <= begun && (due.push_back(std::move(notice.second)), true);
+                });
+                for (auto& then : due) {
+                    then();
+                }
+            });
+        }
     }
-    // Sounds begin at once unless a scene holds them back (`sounds late`) until `sounds begin`.
     void whenAcceptedSoundsHeard(std::function<void()> then) override {
-        late ? waiting.push_back(std::move(then)) : then();
+        late || begun < accepted ? void(waiting.emplace_back(accepted, std::move(then))) : then();
     }
     void begin() {
         t.record("sounds begin");
         for (auto& then : std::exchange(waiting, {})) {
-            then();
+            then.second();
         }
     }
     bool late = false;
-    std::vector<std::function<void()>> waiting;
+    std::int64_t length = 0, silentFrom = 0;  // `timed`: each sound's length, in ms
+    std::uint64_t accepted = 0, begun = 0;
+    std::vector<std::pair<std::uint64_t, std::function<void()>>> waiting;  // after which sound
     FakeSleeper& sleeper;
+    FakeTimers& timers;
+    std::string current;
     std::chrono::milliseconds busyUntil{0}, opened{0};
     std::int32_t busy = 0;
 };

@@ -40,7 +40,7 @@ struct Rig {
     FakeSettings settings{t};
     FakeShell shell{t};
     FakeSleeper sleeper;
-    FakeWavPlayer wav{t, sleeper};
+    FakeWavPlayer wav{t, sleeper, timers};
     FakeJaws jaws{t};
     FakeAutomation automation{t};
     FakeReaderDialog dialog{t};

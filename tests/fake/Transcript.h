@@ -18,13 +18,15 @@ struct Transcript {
         std::string prefix;
         int remaining;
         std::int32_t number;  // 0: a plain standard exception, as a fault of an adapter's own
+        bool every = false;   // every call so made fails, as through a component that is gone
+        bool met = false;
     };
     // `kept` false: only checked for an armed failure, as calls too many to read.
     void record(const std::string& line, bool kept = true) {
         for (auto it = armed.begin(); it != armed.end(); ++it) {
-            if (line.starts_with(it->prefix) && --it->remaining == 0) {
+            if (line.starts_with(it->prefix) && (it->every || --it->remaining == 0)) {
                 const std::int32_t number = it->number;
-                armed.erase(it);
+                it->every ? void(it->met = true) : void(armed.erase(it));
                 lines.push_back("FAILED " + line);
                 number == 0 ? throw std::runtime_error("Injected fault")
                             : throw Failure(number, "Injected failure");

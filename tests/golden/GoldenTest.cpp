@@ -108,11 +108,14 @@ struct Scene {
             }
         } else if (verb == "start") {
             r.system.Main();
-        } else if (verb == "key") {
-            const bool alt = rest.starts_with("Alt+");
-            const std::string key = alt ? rest.substr(4) : rest;
+        } else if (verb == "key") {  // key [Alt+|Ctrl+]<name>
+            const std::size_t plus = rest.find('+');
+            const std::string held = plus == rest.npos ? "" : rest.substr(0, plus);
+            const std::string key = rest.substr(plus == rest.npos ? 0 : plus + 1);
             r.window.press(kKeys.contains(key) ? kKeys.at(key) : key.at(0),
-                           alt ? ShiftState::Alt : 0);
+                           held == "Alt"    ? ShiftState::Alt
+                           : held == "Ctrl" ? ShiftState::Control
+                                            : 0);
         } else if (verb == "move" || verb == "click") {
             const auto [row, col] = cellNamed(rest);
             verb == "move" ? r.window.board.playerMovesTo(row, col)
@@ -121,8 +124,10 @@ struct Scene {
             (r.system.screen.*kMenu.at(rest))();
         } else if (verb == "close") {
             r.window.unload();
-        } else if (verb == "sounds") {
-            rest == "late" ? void(r.wav.late = true) : r.wav.begin();
+        } else if (verb == "sounds") {  // sounds late [<length in ms>], sounds begin
+            rest == "begin"  ? r.wav.begin()
+            : rest == "late" ? void(r.wav.late = true)
+                             : void(r.wav.length = std::stoll(rest.substr(5)));
         } else if (verb == "speech") {
             rest == "late" ? void(r.jaws.late = true) : r.jaws.answer();
         } else if (verb == "wait") {
@@ -138,11 +143,14 @@ struct Scene {
                                          : word == "none" ? ReaderDialog::kNoSelection
                                                           : std::stoi(word));
             }
-        } else if (verb == "fail") {  // fail [occurrence] [std] <start of the failing line>
-            std::string prefix = std::isdigit(rest[0]) ? rest.substr(rest.find(' ') + 1) : rest;
+        } else if (verb == "fail") {  // fail [occurrence|every] [std] <start of the line>
+            const bool every = rest.starts_with("every ");
+            std::string prefix =
+                std::isdigit(rest[0]) || every ? rest.substr(rest.find(' ') + 1) : rest;
             const bool standard = prefix.starts_with("std ");
             r.t.armed.push_back({prefix.substr(standard ? 4 : 0),
-                                 std::isdigit(rest[0]) ? std::stoi(rest) : 1, standard ? 0 : 1234});
+                                 std::isdigit(rest[0]) ? std::stoi(rest) : 1, standard ? 0 : 1234,
+                                 every});
         } else if (verb == "ocean") {
             layOcean(rest == "hal" ? r.state().HalOcean : r.state().MyOcean, rest == "hal");
         } else if (verb == "aim") {
@@ -195,7 +203,9 @@ std::string play(std::istream& script, std::string& unused) {
     std::unique_ptr<Scene> scene;
     const auto finish = [&] {
         const Rig* r = scene ? scene->rig.get() : nullptr;
-        if (r && (!r->t.armed.empty() || !r->boxes.answers.empty() || !r->dialog.steps.empty())) {
+        const bool armed = r && std::any_of(r->t.armed.begin(), r->t.armed.end(),
+                                            [](auto& failure) { return !failure.met; });
+        if (armed || (r && (!r->boxes.answers.empty() || !r->dialog.steps.empty()))) {
             unused += title + "; ";
         }
         transcript += scene ? scene->out : "";
@@ -325,6 +335,7 @@ TEST(Soak, RandomPlayKeepsEveryInvariantGameAfterGame) {
             const char* stored[] = {"JFW", "WE", "None", ""};  // "": nothing, and the dialog
             rig->settings.stored[Rig::kReaderSetting] = stored[roll(3)];
             std::erase_if(rig->settings.stored, [](auto& entry) { return entry.second.empty(); });
+            rig->wav.length = roll(1) * (100 + roll(900));  // half the runs, sounds take time
             scriptTheReaderDialog();
             rig->system.Main();
             rig->t.lines.clear();

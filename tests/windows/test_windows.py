@@ -194,6 +194,9 @@ class MissingReader(WindowsGame):
         for _ in range(4):  # stop, then the three lines of the prompt, each told once
             self.keys("Return", window=self.session.window_id())
             harness.wait_until(lambda: not self.showing("button|OK"), 3, 0.3)
+        # The reports' own words, held behind the opening sounds, fail untold.
+        self.assertFalse(harness.wait_until(lambda: self.showing("button|OK"), 2, 0.3),
+                         self.windows())
         self.assertIsNone(self.session.game.poll())
         self.assertIn("window|Marivox", self.windows())
 

@@ -23,6 +23,14 @@ void QtApplication::setTitle(std::string title) {
     QGuiApplication::setApplicationDisplayName(QString::fromStdString(title_));
 }
 
+void QtApplication::waitUntil(const std::function<bool()>& done) {
+    // Input that arrives meanwhile is kept for the next loop that takes it, such as a box's.
+    while (!done()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                        QEventLoop::WaitForMoreEvents);
+    }
+}
+
 void QtApplication::endNow() {
     ending_ = true;
     for (QWidget* window : QApplication::topLevelWidgets()) {

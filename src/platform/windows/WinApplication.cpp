@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "platform/windows/WinDesktop.h"
 #include "platform/windows/WindowsText.h"
 
 namespace marivox::windows {
@@ -23,6 +24,10 @@ std::string WinApplication::programFolder() const {
     }
     path.erase(path.find_last_of(L'\\') == std::wstring::npos ? 0 : path.find_last_of(L'\\'));
     return utf8Text(path);
+}
+
+void WinApplication::waitUntil(const std::function<bool()>& done) {
+    Desktop::current().runOwnUntil(done);
 }
 
 void WinApplication::endNow() {

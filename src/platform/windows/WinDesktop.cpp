@@ -94,6 +94,21 @@ void Desktop::runModal(HWND window, const bool& closed) {
     }
 }
 
+void Desktop::runOwnUntil(const std::function<bool()>& done) {
+    MSG message;
+    while (!done()) {
+        // Timers and posted calls all go to the message window; nothing else is taken.
+        const BOOL got = GetMessageW(&message, messageWindow_, 0, 0);
+        if (got == 0) {
+            PostQuitMessage(static_cast<int>(message.wParam));  // for the outer loop
+        }
+        if (got <= 0) {
+            return;
+        }
+        DispatchMessageW(&message);
+    }
+}
+
 UINT_PTR Desktop::startTimer(std::chrono::milliseconds interval, std::function<void()> tick) {
     const UINT_PTR id = nextTimer_++;
     timers_[id] = std::move(tick);

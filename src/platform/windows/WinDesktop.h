@@ -36,6 +36,9 @@ class Desktop {
     // An event loop of its own while `window` is open, as a modal dialog holds its caller;
     // the other windows of the program take no input meanwhile.
     void runModal(HWND window, const bool& closed);
+    // Runs only the program's own messages (timers, posted calls) until `done` holds; the
+    // player's keys and clicks stay queued for whichever loop comes next.
+    void runOwnUntil(const std::function<bool()>& done);
 
     // Calls `tick` after `interval` on this thread, once; the returned number stops it.
     UINT_PTR startTimer(std::chrono::milliseconds interval, std::function<void()> tick);
