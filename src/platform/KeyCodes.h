@@ -8,6 +8,7 @@ namespace marivox {
 
 // Key codes as the game screen's key handler receives them.
 namespace KeyCode {
+inline constexpr std::int16_t Other = 0;  // a key the game gives no code of its own
 inline constexpr std::int16_t Back = 8;
 inline constexpr std::int16_t Tab = 9;
 inline constexpr std::int16_t Return = 13;

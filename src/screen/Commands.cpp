@@ -23,13 +23,18 @@ void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t shift) {
             tmrTimer2_->switchOff();
         }
         typeCellName(keyCode, shift);
-        if (keyCode != KeyCode::F5) {
+        // The review keys are plain keys: with Alt or Ctrl they are the desktop's (Alt+F4
+        // closes the window) or nobody's.
+        const bool plain = (shift & (ShiftState::Control | ShiftState::Alt)) == 0;
+        if (keyCode != KeyCode::F5 || !plain) {
             services_.spoken.restartRepeats();
         }
         if (keyCode == KeyCode::Return) {
             mnuOptionsShoot_Click();
         } else if (keyCode == KeyCode::F2) {
             mnuOptionsStatus_Click();
+        } else if (!plain) {
+            return;
         } else if (keyCode == KeyCode::F3) {
             mnuOptionsRow_Click();
         } else if (keyCode == KeyCode::F4) {

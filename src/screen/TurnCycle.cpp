@@ -24,6 +24,7 @@ void GameScreen::runTimerHandler(Procedure procedure, OneShotTimer& timer,
 // turn: only the keyboard path is bound to the player's turn.
 void GameScreen::flex_Click() {
     guard_.run(Procedure::flex_Click, [&] {
+        typedRow_.reset();  // a row letter typed before the turn passed names no cell after it
         speech_.StopSpeech();
         state_.Shooting = kTrue;
         state_.MyRow = static_cast<std::int16_t>(flex_.row());

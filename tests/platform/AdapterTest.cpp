@@ -17,6 +17,7 @@
 #include "platform/qt/Dialogs.h"
 #include "platform/qt/GameWindowQt.h"
 #include "platform/qt/GridWidget.h"
+#include "platform/qt/KeyMapping.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtTimers.h"
@@ -228,6 +229,21 @@ TEST(WavFiles, ReadAsTheirNamesSayAndDamagedOnesAreRefused) {
         EXPECT_TRUE(std::regex_match(named, std::regex(read + "[-.].*"))) << name << ": " << read;
     }
     EXPECT_GT(files.size(), 30u);
+}
+
+// Keys the game names nothing are one code that means nothing, whatever their native code:
+// X's keysyms for Print and Menu, cut to a byte, were the keypad's 1 and 7. Keypad digits
+// with Num Lock on are digits.
+TEST(Keys, AKeyWithoutACodeOfItsOwnIsNoOtherKey) {
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, quint32, std::int16_t> keys[] = {
+        {Qt::Key_Print, {}, 0xff61, KeyCode::Other},
+        {Qt::Key_Menu, {}, 0xff67, KeyCode::Other},
+        {Qt::Key_7, Qt::KeypadModifier, 0xffb7, '7'},
+    };
+    for (const auto& [key, modifiers, keysym, expected] : keys) {
+        const QKeyEvent event(QEvent::KeyPress, key, modifiers, 0, keysym, 0);
+        EXPECT_EQ(qt::gameKeyCode(event), expected) << keysym;
+    }
 }
 
 // The window hears each key first, as the game's key handler; then the board takes it.

@@ -57,8 +57,10 @@ std::int16_t gameKeyCode(const QKeyEvent& event) {
         case Qt::Key_Delete:
             return KeyCode::Delete;
         default:
-            // Any other key still counts as a key: it silences speech in the player's turn.
-            return static_cast<std::int16_t>(event.nativeVirtualKey() & 0xFF);
+            // Any other key still counts as a key (it silences speech in the player's turn),
+            // under a code that means nothing else: the native one, an X keysym, cut to a
+            // byte would pass Print for a keypad digit.
+            return KeyCode::Other;
     }
 }
 
