@@ -261,6 +261,12 @@ class Session:
         subprocess.run(["xdotool", "key", "--delay", str(delay_ms), *names],
                        env=self._base_env(), check=True)
 
+    def mouse_clicks(self, x, y, count=1):
+        """Clicks the left button `count` times at a point of the screen, as fast as a
+        double click."""
+        subprocess.run(["xdotool", "mousemove", "--sync", str(x), str(y), "click", "--repeat",
+                        str(count), "--delay", "60", "1"], env=self._base_env(), check=True)
+
     def give_focus(self, window):
         """What a window manager does for the window a user comes back to: the keyboard focus
         leaves and returns, so the toolkit hears the window take it even if the focus never

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // For the tests: prints what a screen reader would find in the visible windows on the
 // desktop, one line each: "window|<title>", then for its controls "text|<text>",
-// "button|<caption>" and "item|<text>|selected" or "item|<text>|".
+// "button|<caption>" and "item|<text>|selected" or "item|<text>|"; the game's board as
+// "board|<left> <top> <right> <bottom>", on the screen.
 #include <windows.h>
 
 #include <cstdio>
@@ -41,6 +42,10 @@ BOOL CALLBACK control(HWND child, LPARAM) {
             item.resize(wcslen(item.c_str()));
             std::printf("item|%s|%s\n", utf8(item).c_str(), i == selected ? "selected" : "");
         }
+    } else if (_wcsicmp(kind, L"MarivoxBoard") == 0) {
+        RECT place;
+        GetWindowRect(child, &place);
+        std::printf("board|%ld %ld %ld %ld\n", place.left, place.top, place.right, place.bottom);
     } else if (IsWindowVisible(child) && GetWindowTextLengthW(child) > 0) {
         std::printf("%s|%s\n", _wcsicmp(kind, L"Button") == 0 ? "button" : "text",
                     utf8(textOf(child)).c_str());

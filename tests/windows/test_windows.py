@@ -143,6 +143,18 @@ class Played(WindowsGame):
         # The turn's timers count from the shot; what is said may wait for sounds, never less.
         self.assertGreaterEqual(answer[0] - fired, 4.4)
 
+        # A double click in the middle of the board, in the player's turn again: one shot.
+        board = [int(n) for line in self.windows() if line.startswith("board|")
+                 for n in line[6:].split()]
+        self.session.mouse_clicks((board[0] + board[2]) // 2, (board[1] + board[3]) // 2, 2)
+        shots = harness.wait_until(lambda: [s for t, c, s in self.said()[heard:]
+                                            if t > answer[0] and re.match(r"[A-I]  \d was ", s)],
+                                   10)
+        self.assertEqual(len(shots), 1, self.said()[heard:])
+        time.sleep(1)  # a second shot would have been said by now
+        self.assertEqual(len([s for t, c, s in self.said()[heard:] if t > answer[0] and
+                              re.match(r"[A-I]  \d was ", s)]), 1, self.said()[heard:])
+
         self.keys("alt+h", "a")
         self.wait_for_window("text|Version 1.0.0")
         self.assertTrue(self.showing("window|About Marivox") and self.showing("button|OK"))

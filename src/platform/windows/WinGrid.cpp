@@ -3,6 +3,7 @@
 #include "platform/windows/WinGrid.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/windows/WinDesktop.h"
 #include "platform/windows/WinTwips.h"
@@ -75,10 +76,20 @@ LRESULT WinGrid::handle(UINT message, WPARAM wParam, LPARAM lParam) {
         case WM_KEYDOWN:
             keyDown(wParam);
             return 0;
+        // A click fires once the button comes up in the cell it went down in; the press only
+        // moves the cursor there. The second press of a double click is no new click.
         case WM_LBUTTONDOWN:
+            SetFocus(window_);
+            press(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+            return 0;
         case WM_LBUTTONDBLCLK:
             SetFocus(window_);
-            click(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+            return 0;
+        case WM_LBUTTONUP:
+            release(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+            return 0;
+        case WM_CAPTURECHANGED:
+            pressed_.reset();  // a window taking the mouse away ends the click
             return 0;
         case WM_SETFOCUS:
         case WM_KILLFOCUS:
@@ -339,18 +350,33 @@ void WinGrid::keyDown(WPARAM key) {
     moveCursor(row, col);
 }
 
-void WinGrid::click(int x, int y) {
+std::optional<std::pair<int, int>> WinGrid::cellAt(int x, int y) const {
     for (int r = fixedRows_; r < rows_; ++r) {
         for (int c = fixedCols_; c < cols_; ++c) {
             const RECT box = cellRect(r, c);
             if (PtInRect(&box, POINT{x, y})) {
-                moveCursor(r, c);
-                if (events_ != nullptr) {
-                    guarded("flex", [this] { events_->onClick(); });
-                }
-                return;
+                return std::pair(r, c);
             }
         }
+    }
+    return std::nullopt;
+}
+
+void WinGrid::press(int x, int y) {
+    pressed_ = cellAt(x, y);
+    if (pressed_) {
+        SetCapture(window_);
+        moveCursor(pressed_->first, pressed_->second);
+    }
+}
+
+void WinGrid::release(int x, int y) {
+    const auto pressed = std::exchange(pressed_, std::nullopt);
+    if (GetCapture() == window_) {
+        ReleaseCapture();
+    }
+    if (pressed && pressed == cellAt(x, y) && events_ != nullptr) {
+        guarded("flex", [this] { events_->onClick(); });
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/GridControl.h"
@@ -73,7 +74,9 @@ class WinGrid : public GridControl {
     RECT cellRect(int row, int col) const;
     void paint(HDC dc) const;
     void keyDown(WPARAM key);
-    void click(int x, int y);
+    std::optional<std::pair<int, int>> cellAt(int x, int y) const;
+    void press(int x, int y);
+    void release(int x, int y);
 
     HWND window_ = nullptr;
     GridEvents* events_ = nullptr;
@@ -88,6 +91,7 @@ class WinGrid : public GridControl {
     int headingRowPixels_ = -1;  // -1: the control's own size
     int headingColPixels_ = -1;
     std::vector<Cell> cells_;
+    std::optional<std::pair<int, int>> pressed_;  // the cell the mouse button went down in
     Rgb back_{255, 255, 255};
     Rgb fore_{0, 0, 0};
 };
