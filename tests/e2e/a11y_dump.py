@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 Marivox Developers
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Prints the accessible tree of the running Marivox, one object a line: depth, role, name;
-with --focused, only the objects that say they have the keyboard focus."""
+with --focused, only the objects that say they have the keyboard focus; with --places, each
+line ends in where the object lies on the screen: "|x y width height"."""
 
 import sys
 
@@ -22,13 +23,22 @@ def text_of(node, limit=600):
     return "" if contents == node.name else contents
 
 
+def place(node):
+    try:
+        box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    except NotImplementedError:
+        return "|"
+    return "|%d %d %d %d" % (box.x, box.y, box.width, box.height)
+
+
 def walk(node, depth, out, limit=4000, focused_only=False):
     if node is None or len(out) > limit:
         return
     try:
         name = one_line(node.name)
         if not focused_only or node.getState().contains(pyatspi.STATE_FOCUSED):
-            out.append("%d|%s|%s" % (depth, node.getRoleName(), name))
+            out.append("%d|%s|%s%s" % (depth, node.getRoleName(), name,
+                                       place(node) if "--places" in sys.argv else ""))
         contents = "" if focused_only else text_of(node)
         if contents:
             out.append("%d|text contents|%s" % (depth + 1, one_line(contents)))

@@ -15,6 +15,7 @@ import unittest
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import harness  # noqa: E402
+import hunt  # noqa: E402
 
 PROMPT = [" press f 1 for help  ", " press f 2 for status  ",
           " it is your turn, and you are located at A 1 "]
@@ -296,11 +297,9 @@ class SoundsThenWords(GameTest):
     def play_a_turn(self):
         """Fires at the next cell of a simple hunt and hears the computer's shot; whether
         either sank a ship."""
-        target = self.next_target()
-        moves = ["Down"] * (target[0] - self.at[0]) + ["Right"] * (target[1] - self.at[1])
-        moves += ["Up"] * (self.at[0] - target[0]) + ["Left"] * (self.at[1] - target[1])
-        if moves:
-            self.session.keys(*moves, window=self.window)
+        target = hunt.next_target(self.fired, self.hits)
+        if hunt.moves(self.at, target):
+            self.session.keys(*hunt.moves(self.at, target), window=self.window)
         self.at, heard = target, len(self.session.texts())
         self.fired.add(target)
         self.session.keys("Return", window=self.window)
@@ -318,19 +317,6 @@ class SoundsThenWords(GameTest):
             return next((s for s in said[aimed + 1:] if COMPUTER_RESULT.match(s)), None)
         self.assertTrue(harness.wait_until(answer, 15), self.session.texts()[heard:])
         return answer().startswith(" I sank")
-
-    def next_target(self):
-        for cells in self.hits.values():  # around a ship hit, in its line once it shows
-            rows, cols = {r for r, _ in cells}, {c for _, c in cells}
-            around = [(r + dr, c + dc) for r, c in cells
-                      for dr, dc in ((0, 1), (0, -1), (1, 0), (-1, 0))
-                      if len(cells) == 1 or (len(rows) == 1 and dr == 0)
-                      or (len(cols) == 1 and dc == 0)]
-            around = [t for t in around if t not in self.fired and 1 <= min(t) and max(t) <= 9]
-            if around:
-                return around[0]
-        return next((r, c) for r in range(1, 10) for c in range(1, 10)
-                    if (r + c) % 2 == 0 and (r, c) not in self.fired)
 
     def test_a_key_drops_the_words_waiting_behind_a_sound(self):
         self.session.launch()

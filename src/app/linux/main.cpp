@@ -41,12 +41,15 @@ int main(int argc, char** argv) {
     speechd::SpeechdAutomationObjects automation(latency.get(), onUserInterface);
     qt::ReaderDialogQt readerDialog;
     qt::AboutBoxQt aboutBox([&window] { return &window; });
-    RealClock clock;
+    RealClock realClock;
+    CountingClock countingClock;
+    const auto replay = replaySeed();
+    Clock& clock = replay ? static_cast<Clock&>(countingClock) : realClock;
     RealSleeper sleeper;
 
     System system({window, timers, boxes, application, settings, shell, *player, jaws, automation,
                    readerDialog, aboutBox, clock, sleeper},
-                  clock.ticks());
+                  replay.value_or(realClock.ticks()));
     desktop.setEscapedFailureHandler(
         [&system](std::string_view where, const std::exception& failure) {
             system.guard.reportEscaped(where, failure);

@@ -47,12 +47,15 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     windows::WindowsAutomationObjects automation;
     windows::WinReaderDialog readerDialog;
     windows::WinAboutBox aboutBox([&window] { return window.handle(); });
-    RealClock clock;
+    RealClock realClock;
+    CountingClock countingClock;
+    const auto replay = replaySeed();
+    Clock& clock = replay ? static_cast<Clock&>(countingClock) : realClock;
     RealSleeper sleeper;
 
     System system({window, timers, boxes, application, settings, shell, player, jaws, automation,
                    readerDialog, aboutBox, clock, sleeper},
-                  clock.ticks());
+                  replay.value_or(realClock.ticks()));
     desktop.setEscapedFailureHandler(
         [&system](std::string_view where, const std::exception& failure) {
             system.guard.reportEscaped(where, failure);

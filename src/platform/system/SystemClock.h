@@ -3,6 +3,8 @@
 #pragma once
 
 #include <chrono>
+#include <cstdlib>
+#include <optional>
 #include <thread>
 
 #include "platform/Clock.h"
@@ -20,6 +22,23 @@ class RealClock : public Clock {
             std::chrono::high_resolution_clock::now().time_since_epoch().count());
     }
 };
+
+// For a test that replays a game: MARIVOX_SEED in the environment is the random generator's
+// first state, and the clock that stirs it counts instead of telling the time, so one seed
+// deals the same fleets and draws the same shots every run.
+class CountingClock : public Clock {
+  public:
+    std::uint64_t ticks() override { return ++count_; }
+
+  private:
+    std::uint64_t count_ = 0;
+};
+
+inline std::optional<std::uint64_t> replaySeed() {
+    const char* seed = std::getenv("MARIVOX_SEED");
+    return seed != nullptr && *seed != '\0' ? std::optional(std::strtoull(seed, nullptr, 10))
+                                            : std::nullopt;
+}
 
 class RealSleeper : public Sleeper {
   public:
