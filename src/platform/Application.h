@@ -8,6 +8,12 @@
 
 namespace marivox {
 
+// The platforms the game is built for, as bits, so a set of them is one number.
+namespace Platform {
+inline constexpr unsigned Linux = 1;
+inline constexpr unsigned Windows = 2;
+}  // namespace Platform
+
 struct Version {
     std::int16_t major = 0;
     std::int16_t minor = 0;
@@ -26,6 +32,8 @@ class Application {
     virtual std::string title() const = 0;
     virtual void setTitle(std::string title) = 0;
     virtual Version version() const = 0;
+    // The platform the program runs on (one of Platform's bits).
+    virtual unsigned platform() const = 0;
     // Holds the caller until `done` holds, while the event loop goes on without the player's
     // input: timers tick and calls posted from other threads run, keys and clicks wait their
     // turn. A timer must be sure to make `done` hold in the end.

@@ -16,35 +16,28 @@ enum class SpeechCall { Say, Stop };
 using FailureTeller = std::function<void(std::exception_ptr)>;
 using LateFailureHandler = std::function<FailureTeller(SpeechCall)>;
 
-// The JAWS For Windows function library, loaded by name at its first call. Every call may
-// throw a Failure: library missing, function missing, speech service lost.
-class JawsApi {
+// One screen reader, as the game speaks through it. Every call may throw a Failure: the
+// reader is not there, or was lost.
+class ReaderVoice {
   public:
-    virtual ~JawsApi() = default;
-    // Speaks text after whatever is being said when interrupt is false.
-    virtual void JFWSayString(std::string_view text, bool interrupt) = 0;
-    virtual void JFWStopSpeech() = 0;
-    // Where failures that come after a call returned are told; calls that fail at once
-    // (every adapter's own way when it does not hand calls on) need none.
-    virtual void onLateFailure(LateFailureHandler /*handler*/) {}
+    virtual ~ReaderVoice() = default;
+    // Hands the text over to be said after whatever the reader is saying, never cutting it
+    // off, and shown on the reader's braille display where it has one.
+    virtual void say(std::string_view text) = 0;
+    // Silences what the reader is saying.
+    virtual void stop() = 0;
 };
 
-// The Window-Eyes speech object ("GWSpeak.Speak"), called by name.
-class SpeechAutomationObject {
+// The platform's drivers: how it reaches each screen reader it can.
+class ReaderDrivers {
   public:
-    virtual ~SpeechAutomationObject() = default;
-    virtual void SpeakString(std::string_view text) = 0;
-    virtual void Silence() = 0;
-    virtual void onLateFailure(LateFailureHandler /*handler*/) {}
-};
-
-// Creates automation objects by class name; throws a Failure with a clear description when
-// the class cannot be created (not installed, no speech service).
-class AutomationObjects {
-  public:
-    virtual ~AutomationObjects() = default;
-    virtual std::unique_ptr<SpeechAutomationObject> CreateObject(std::string_view className) = 0;
-    // Given to every object created from now on.
+    virtual ~ReaderDrivers() = default;
+    // The voice of the reader a choice names ("JFW", "WE", ...). A reader reached through an
+    // object the game starts (Window-Eyes's) is started here, and a failure thrown; the others
+    // are reached at the voice's first call, which fails then if the reader is not there.
+    virtual std::unique_ptr<ReaderVoice> voiceOf(std::string_view reader) = 0;
+    // Where failures of calls that were handed on and returned at once are told; given to
+    // every voice made from then on. Voices whose calls fail at once need none.
     virtual void onLateFailure(LateFailureHandler /*handler*/) {}
 };
 

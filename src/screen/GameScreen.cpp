@@ -49,8 +49,7 @@ GameScreen::GameScreen(const GameScreenServices& s)
       halShots_(s.state, s.guard, s.speech, s.sounds, targeting_) {
     flex_.setListener(this);
     flex_.setCellDescriber(&GameScreen::describeCell);
-    flex_.setMovesVoiced(
-        [&reader = s.reader] { return isChosen(reader, kJaws) || isChosen(reader, kWindowEyes); });
+    flex_.setMovesVoiced([&reader = s.reader] { return reader.chosen() != nullptr; });
 }
 
 void GameScreen::Form_Load() {
@@ -136,14 +135,16 @@ void GameScreen::Form_Unload(std::int16_t& cancel) {
             }
             services_.window.unloadOtherWindows();
             sounds_.PlaySound(sound::End);
-            releaseWindowEyesIfChosen();
+            releaseStartedReader();
         },
         FailureSteps::after([&] { services_.application.endNow(); }));
 }
 
-void GameScreen::releaseWindowEyesIfChosen() {
-    if (isChosen(services_.reader, kWindowEyes)) {
-        services_.reader.WESpeech.reset();
+void GameScreen::releaseStartedReader() {
+    auto& voices = services_.reader.voices;
+    if (const ReaderRow* reader = services_.reader.chosen();
+        reader != nullptr && reader->startedOnChoice && voices.contains(reader->stored)) {
+        voices.erase(voices.find(reader->stored));
     }
 }
 

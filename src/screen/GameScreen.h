@@ -102,7 +102,8 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     std::string cursorCellName();
     // Asks whether to play again after a win; No ends the program at once.
     void askToPlayAgain(std::string_view question);
-    void releaseWindowEyesIfChosen();
+    // The reader the game started on choice (Window-Eyes's object), released as it ends.
+    void releaseStartedReader();
     // A typed cell name: a row letter waits for its column digit; anything else drops it.
     void typeCellName(std::int16_t keyCode, std::int16_t shift);
     void jumpTo(int row, int col);

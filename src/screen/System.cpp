@@ -14,18 +14,18 @@ System::System(const PlatformPorts& p, std::uint64_t seed)
       guard(reports),
       generator(p.clock, seed),
       random(generator, guard),
-      speech(reader, p.jaws, guard),
+      speech(reader, p.readers, guard),
       sounds(p.wavPlayer, p.application, p.sleeper, guard),
       heard(speech, sounds, p.wavPlayer, p.timers, p.application, reports),
       spoken(heard),
-      readerChoice(reader, p.settings, p.automation, readerDialog, boxes, guard),
+      readerChoice(reader, p.settings, p.readers, readerDialog, boxes, guard),
       help(p.application, p.shell, boxes, guard),
       about(aboutBox, p.application),
       screen({state, guard, spoken, spoken, heard, random, reader, readerChoice, help, about,
               p.window, p.timers, boxes, p.application}) {
+    reader.platform = p.application.platform();
     reports.speakThrough([this](std::string_view text) { heard.Speak(text); });
-    p.jaws.onLateFailure(speech.lateFailures());
-    p.automation.onLateFailure(speech.lateFailures());
+    p.readers.onLateFailure(speech.lateFailures());
 }
 
 void System::Main() {

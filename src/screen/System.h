@@ -21,9 +21,8 @@
 
 namespace marivox {
 
-class AutomationObjects;
 class Clock;
-class JawsApi;
+class ReaderDrivers;
 class SettingsStore;
 class Shell;
 class Sleeper;
@@ -38,8 +37,7 @@ struct PlatformPorts {
     SettingsStore& settings;
     Shell& shell;
     WavPlayer& wavPlayer;
-    JawsApi& jaws;
-    AutomationObjects& automation;
+    ReaderDrivers& readers;
     ReaderDialog& readerDialog;
     AboutBox& aboutBox;
     Clock& clock;

@@ -56,7 +56,7 @@ void GameScreen::askToPlayAgain(std::string_view question) {
         return;
     }
     // Declining ends the program at once: no exit question, no closing sound.
-    releaseWindowEyesIfChosen();
+    releaseStartedReader();
     services_.application.endNow();
 }
 

@@ -17,10 +17,7 @@ namespace {
 constexpr std::string_view kApplication = "Marivox";
 constexpr std::string_view kSection = "StartUp";
 constexpr std::string_view kKey = "Reader";
-constexpr std::string_view kSpeechClass = "GWSpeak.Speak";
 
-constexpr std::string_view kJawsItem = "JAWS For Windows";
-constexpr std::string_view kWindowEyesItem = "Window-Eyes";
 constexpr std::string_view kDialogCaption = "Screen Reader";
 constexpr std::string_view kMustChoose =
     "You must choose the type of screen reader software you are using. ";
@@ -31,10 +28,11 @@ std::string ScreenReaderChoice::readSetting() {
     return settings_.GetSetting(kApplication, kSection, kKey, kNoReader);
 }
 
-void ScreenReaderChoice::createSpeechObjectIfChosen() {
-    if (isChosen(reader_, kWindowEyes)) {
-        // A new object replaces the old only once it exists; a failed creation keeps it.
-        reader_.WESpeech = automation_.CreateObject(kSpeechClass);
+void ScreenReaderChoice::startReaderIfChosen() {
+    if (const ReaderRow* reader = reader_.chosen(); reader != nullptr && reader->startedOnChoice) {
+        // A new voice replaces the old only once it exists; a failed start keeps it.
+        auto voice = drivers_.voiceOf(reader->stored);
+        reader_.voices.insert_or_assign(std::string(reader->stored), std::move(voice));
     }
 }
 
@@ -56,7 +54,7 @@ void ScreenReaderChoice::GetScreenReader() {
         } else {
             reader_.ScreenReader = readSetting();
         }
-        createSpeechObjectIfChosen();
+        startReaderIfChosen();
     });
 }
 
@@ -70,28 +68,23 @@ void ScreenReaderChoice::chooseAgain() {
     dialog_.showModal(*this);
     // Written again even when the dialog was closed without a choice.
     SaveScreenReader();
-    createSpeechObjectIfChosen();
+    startReaderIfChosen();
 }
 
 void ScreenReaderChoice::Form_Load() {
-    dialog_.addItem(kJawsItem);
-    dialog_.addItem(kWindowEyesItem);
+    for (const ReaderRow* reader : readersOn(reader_.platform)) {
+        dialog_.addItem(reader->item);
+    }
     dialog_.setListIndex(0);
 }
 
 void ScreenReaderChoice::btnOK_Click() {
     guard_.run(Procedure::frmReader_btnOK_Click, [&] {
-        switch (dialog_.listIndex()) {
-            case 0:
-                reader_.ScreenReader = kJaws;
-                break;
-            case 1:
-                reader_.ScreenReader = kWindowEyes;
-                break;
-            default:
-                reader_.ScreenReader = kNoReader;
-                break;
-        }
+        const auto offered = readersOn(reader_.platform);
+        const int selected = dialog_.listIndex();
+        reader_.ScreenReader = selected >= 0 && selected < static_cast<int>(offered.size())
+                                   ? offered[static_cast<std::size_t>(selected)]->stored
+                                   : kNoReader;
         dialog_.unload();
     });
 }

@@ -8,8 +8,8 @@
 
 namespace marivox {
 
-class AutomationObjects;
 class Guard;
+class ReaderDrivers;
 class MessageBoxes;
 class SettingsStore;
 struct ScreenReaderState;
@@ -18,12 +18,11 @@ struct ScreenReaderState;
 // stored after every choice, and the dialog in which the player makes it.
 class ScreenReaderChoice : public ReaderDialogEvents {
   public:
-    ScreenReaderChoice(ScreenReaderState& reader, SettingsStore& settings,
-                       AutomationObjects& automation, ReaderDialog& dialog, MessageBoxes& boxes,
-                       Guard& guard)
+    ScreenReaderChoice(ScreenReaderState& reader, SettingsStore& settings, ReaderDrivers& drivers,
+                       ReaderDialog& dialog, MessageBoxes& boxes, Guard& guard)
         : reader_(reader),
           settings_(settings),
-          automation_(automation),
+          drivers_(drivers),
           dialog_(dialog),
           boxes_(boxes),
           guard_(guard) {}
@@ -40,11 +39,11 @@ class ScreenReaderChoice : public ReaderDialogEvents {
 
   private:
     std::string readSetting();
-    void createSpeechObjectIfChosen();
+    void startReaderIfChosen();
 
     ScreenReaderState& reader_;
     SettingsStore& settings_;
-    AutomationObjects& automation_;
+    ReaderDrivers& drivers_;
     ReaderDialog& dialog_;
     MessageBoxes& boxes_;
     Guard& guard_;

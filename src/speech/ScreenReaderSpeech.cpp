@@ -6,35 +6,35 @@
 #include "support/Guard.h"
 
 namespace marivox {
-namespace {
 
-SpeechAutomationObject& windowEyes(ScreenReaderState& reader) {
-    if (!reader.WESpeech) {
-        throw Failure(FailureNumber::SpeechObjectMissing,
-                      "The Window-Eyes speech object has not been created");
+// A reader's voice is made at its first call and kept (its driver reaches the reader afresh
+// at each call until it answers); a reader started on choice that never started has none.
+ReaderVoice& ScreenReaderSpeech::voiceOf(const ReaderRow& reader) {
+    if (const auto found = reader_.voices.find(reader.stored); found != reader_.voices.end()) {
+        return *found->second;
     }
-    return *reader.WESpeech;
+    if (reader.startedOnChoice) {
+        throw Failure(FailureNumber::SpeechObjectMissing,
+                      "The " + std::string(reader.item) + " speech object has not been created");
+    }
+    auto voice = drivers_.voiceOf(reader.stored);
+    return *reader_.voices.emplace(reader.stored, std::move(voice)).first->second;
 }
-
-}  // namespace
 
 void ScreenReaderSpeech::Speak(std::string_view text) {
     guard_.run(Procedure::Speak, [&] {
-        if (isChosen(reader_, kJaws)) {
-            // Never interrupts: each text follows what is already being said.
-            jaws_.JFWSayString(text, false);
-        } else if (isChosen(reader_, kWindowEyes) && !text.empty()) {
-            windowEyes(reader_).SpeakString(text);
+        // Never interrupts: each text follows what is already being said.
+        if (const ReaderRow* reader = reader_.chosen();
+            reader != nullptr && (reader->saysEmptyText || !text.empty())) {
+            voiceOf(*reader).say(text);
         }
     });
 }
 
 void ScreenReaderSpeech::StopSpeech() {
     guard_.run(Procedure::StopSpeech, [&] {
-        if (isChosen(reader_, kJaws)) {
-            jaws_.JFWStopSpeech();
-        } else if (isChosen(reader_, kWindowEyes)) {
-            windowEyes(reader_).Silence();
+        if (const ReaderRow* reader = reader_.chosen(); reader != nullptr) {
+            voiceOf(*reader).stop();
         }
     });
 }

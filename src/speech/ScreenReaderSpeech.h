@@ -12,14 +12,15 @@
 namespace marivox {
 
 class Guard;
+struct ReaderRow;
 struct ScreenReaderState;
 
 // Speech through the screen reader the player chose, looked up at every call so that a
 // new choice takes effect at once. With no reader chosen the game stays silent.
 class ScreenReaderSpeech : public Speech {
   public:
-    ScreenReaderSpeech(ScreenReaderState& reader, JawsApi& jaws, Guard& guard)
-        : reader_(reader), jaws_(jaws), guard_(guard) {}
+    ScreenReaderSpeech(ScreenReaderState& reader, ReaderDrivers& drivers, Guard& guard)
+        : reader_(reader), drivers_(drivers), guard_(guard) {}
 
     void Speak(std::string_view text) override;
     void StopSpeech() override;
@@ -27,10 +28,11 @@ class ScreenReaderSpeech : public Speech {
     LateFailureHandler lateFailures();
 
   private:
+    ReaderVoice& voiceOf(const ReaderRow& reader);
     void tellLate(Procedure procedure, std::exception_ptr failure);
 
     ScreenReaderState& reader_;
-    JawsApi& jaws_;
+    ReaderDrivers& drivers_;
     Guard& guard_;
     std::deque<std::pair<Procedure, std::exception_ptr>> untold_;
     bool telling_ = false;

@@ -2,37 +2,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <string>
-#include <string_view>
 
+#include "platform/Readers.h"
 #include "platform/ScreenReaders.h"
 
 namespace marivox {
 
-inline constexpr std::string_view kJaws = "JFW";
-inline constexpr std::string_view kWindowEyes = "WE";
-inline constexpr std::string_view kNoReader = "None";
-
-// Which screen reader speaks for the player, and the Window-Eyes speech object when that is
-// the one. One instance serves the whole program.
+// Which screen reader speaks for the player, and the voices reached so far. One instance
+// serves the whole program.
 struct ScreenReaderState {
     std::string ScreenReader;  // empty until first chosen
-    std::unique_ptr<SpeechAutomationObject> WESpeech;
+    unsigned platform = 0;     // where the game runs, which says what readers there are
+    // Each reader's voice, kept for the run once reached. A reader started on choice
+    // (Window-Eyes's object) is replaced by each new start and released at the end.
+    std::map<std::string, std::unique_ptr<ReaderVoice>, std::less<>> voices;
+
+    const ReaderRow* chosen() const { return chosenReader(ScreenReader, platform); }
 };
-
-// Blanks around the text removed, as the choice is always compared.
-inline std::string_view trimmedBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-// True when the choice, trimmed, is exactly `reader` (case matters: "we" selects nothing).
-inline bool isChosen(const ScreenReaderState& state, std::string_view reader) {
-    return trimmedBlanks(state.ScreenReader) == reader;
-}
 
 }  // namespace marivox

@@ -18,6 +18,7 @@
 #include "platform/KeyCodes.h"
 #include "platform/MessageBoxes.h"
 #include "platform/OneShotTimer.h"
+#include "platform/Readers.h"
 #include "platform/ScreenReaders.h"
 #include "platform/SettingsStore.h"
 #include "platform/Shell.h"
@@ -306,6 +307,7 @@ struct FakeApplication : Application, Recorder {
     std::string title() const override { return name; }
     void setTitle(std::string title) override { name = std::move(title); }
     Version version() const override { return {1, 0, 0}; }
+    unsigned platform() const override { return runsOn; }
     // Virtual time runs on to each thing that falls due, until `done` or nothing is left.
     void waitUntil(const std::function<bool()>& done) override {
         while (!done() && timers.fireNext()) {
@@ -317,6 +319,7 @@ struct FakeApplication : Application, Recorder {
     }
     FakeTimers& timers;
     std::string help, name;
+    unsigned runsOn = Platform::Linux;
     bool ended = false;
 };
 
@@ -409,12 +412,34 @@ struct FakeWavPlayer : WavPlayer, Recorder {
     std::int32_t busy = 0;
 };
 
-struct FakeJaws : JawsApi, Recorder {
+// Every screen reader, each voice writing its calls in its own words: JAWS "speak" and
+// "stop", Window-Eyes's object "we speak", "we silence" and, once created ("create
+// GWSpeak.Speak"), "we released"; any other reader "<stored value> say" and "stop".
+struct FakeReaders : ReaderDrivers, Recorder {
     using Recorder::Recorder;
-    void JFWSayString(std::string_view text, bool interrupt) override {
-        call(SpeechCall::Say, (interrupt ? "speak! " : "speak ") + quoted(text));
+    struct Voice : ReaderVoice {
+        Voice(FakeReaders& o, std::string_view r) : owner(o), reader(r) {}
+        ~Voice() override {
+            reader == kWindowEyes.stored ? owner.t.lines.push_back("we released") : void();
+        }
+        void say(std::string_view text) override {
+            owner.call(SpeechCall::Say, (reader == kJaws.stored         ? "speak "
+                                         : reader == kWindowEyes.stored ? "we speak "
+                                                                        : reader + " say ") +
+                                            quoted(text));
+        }
+        void stop() override {
+            owner.call(SpeechCall::Stop, reader == kJaws.stored         ? "stop"
+                                         : reader == kWindowEyes.stored ? "we silence"
+                                                                        : reader + " stop");
+        }
+        FakeReaders& owner;
+        std::string reader;
+    };
+    std::unique_ptr<ReaderVoice> voiceOf(std::string_view reader) override {
+        reader == kWindowEyes.stored ? t.record("create GWSpeak.Speak") : void();
+        return std::make_unique<Voice>(*this, reader);
     }
-    void JFWStopSpeech() override { call(SpeechCall::Stop, "stop"); }
     void onLateFailure(LateFailureHandler handler) override { lateFailures = std::move(handler); }
     // `late`: calls are handed on, as to speech-dispatcher, and a failure is told once the
     // scene lets the service answer.
@@ -440,20 +465,6 @@ struct FakeJaws : JawsApi, Recorder {
     bool late = false;
     LateFailureHandler lateFailures;
     std::vector<std::function<void()>> pending;
-};
-
-struct FakeAutomation : AutomationObjects, Recorder {
-    using Recorder::Recorder;
-    struct Speech : SpeechAutomationObject, Recorder {
-        using Recorder::Recorder;
-        ~Speech() override { t.lines.push_back("we released"); }
-        void SpeakString(std::string_view text) override { t.record("we speak " + quoted(text)); }
-        void Silence() override { t.record("we silence"); }
-    };
-    std::unique_ptr<SpeechAutomationObject> CreateObject(std::string_view className) override {
-        t.record("create " + std::string(className));
-        return std::make_unique<Speech>(t);
-    }
 };
 
 // A clock whose every reading is `step` ticks after the last.

@@ -28,8 +28,8 @@ struct Rig {
     }
     GameState& state() { return system.state; }
     PlatformPorts ports() {
-        return {window, timers,     boxes,  app,   settings, shell,  wav,
-                jaws,   automation, dialog, about, clock,    sleeper};
+        return {window, timers,  boxes,  app,   settings, shell,
+                wav,    readers, dialog, about, clock,    sleeper};
     }
 
     Transcript t;
@@ -41,8 +41,7 @@ struct Rig {
     FakeShell shell{t};
     FakeSleeper sleeper;
     FakeWavPlayer wav{t, sleeper, timers};
-    FakeJaws jaws{t};
-    FakeAutomation automation{t};
+    FakeReaders readers{t};
     FakeReaderDialog dialog{t};
     FakeAboutBox about{t};
     FakeClock clock;

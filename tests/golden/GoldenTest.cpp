@@ -106,6 +106,9 @@ struct Scene {
             if (rest != "nothing") {
                 r.settings.stored[Rig::kReaderSetting] = rest.substr(1, rest.size() - 2);
             }
+        } else if (verb == "platform") {  // platform linux|windows, before the start
+            r.app.runsOn = r.system.reader.platform =
+                rest == "windows" ? Platform::Windows : Platform::Linux;
         } else if (verb == "start") {
             r.system.Main();
         } else if (verb == "key") {  // key [Alt+|Ctrl+]<name>
@@ -129,7 +132,7 @@ struct Scene {
             : rest == "late" ? void(r.wav.late = true)
                              : void(r.wav.length = std::stoll(rest.substr(5)));
         } else if (verb == "speech") {
-            rest == "late" ? void(r.jaws.late = true) : r.jaws.answer();
+            rest == "late" ? void(r.readers.late = true) : r.readers.answer();
         } else if (verb == "wait") {
             r.timers.advance(std::stoll(rest));
         } else if (verb == "answer") {

@@ -80,16 +80,16 @@ class PrivateSpeechd : public ::testing::Test {
 // before speaking), while a text after a stop is heard. Of the texts before a stop, only
 // the first may have begun.
 TEST_F(PrivateSpeechd, CallsAreMadeInOrderAndEveryStopDropsWhatCameBefore) {
-    speechd::SpeechdJawsApi jaws(nullptr, post);
+    speechd::SpeechdVoice voice(nullptr, post, {});
     std::vector<std::string> spoken, after;
     for (const std::string round : {"first", "second"}) {
         for (int i = 1; i <= 5; ++i) {
-            jaws.JFWSayString(round + " " + std::to_string(i), false);
+            voice.say(round + " " + std::to_string(i));
         }
-        jaws.JFWStopSpeech();
-        jaws.JFWStopSpeech();
+        voice.stop();
+        voice.stop();
         after.push_back(" after the " + round + " stop, \xc3\xa9t\xc3\xa9.  ");
-        jaws.JFWSayString(after.back(), false);
+        voice.say(after.back());
         spoken = spokenUntil(after.back());
     }
     std::erase_if(spoken, [](const std::string& text) { return text.ends_with(" 1"); });
@@ -102,9 +102,8 @@ TEST_F(PrivateSpeechd, CallsAreMadeInOrderAndEveryStopDropsWhatCameBefore) {
 // thread. The server back at its address, the next text is heard.
 TEST_F(PrivateSpeechd, FailuresArePostedInOrderAndTheServerIsFoundAgain) {
     std::vector<std::string> told;
-    speechd::SpeechdJawsApi jaws(nullptr, post);
     const std::thread::id userInterface = std::this_thread::get_id();
-    jaws.onLateFailure([&](SpeechCall call) -> FailureTeller {
+    speechd::SpeechdVoice voice(nullptr, post, [&](SpeechCall call) -> FailureTeller {
         return [&told, call, userInterface](std::exception_ptr failure) {
             EXPECT_EQ(std::this_thread::get_id(), userInterface);
             try {
@@ -115,11 +114,11 @@ TEST_F(PrivateSpeechd, FailuresArePostedInOrderAndTheServerIsFoundAgain) {
             }
         };
     });
-    jaws.JFWSayString("before", false);
+    voice.say("before");
     spokenUntil("before");
     kill();
-    jaws.JFWStopSpeech();
-    jaws.JFWSayString("lost", false);
+    voice.stop();
+    voice.say("lost");
     for (int wait = 0; wait < 500 && postedCount() < 2; ++wait) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
@@ -137,7 +136,7 @@ TEST_F(PrivateSpeechd, FailuresArePostedInOrderAndTheServerIsFoundAgain) {
     EXPECT_TRUE(told[1].starts_with("say: " + service + "could not be reached: ")) << told[1];
 
     start();
-    jaws.JFWSayString("found again", false);
+    voice.say("found again");
     EXPECT_EQ(spokenUntil("found again"), std::vector<std::string>{"found again"});
     EXPECT_EQ(postedCount(), 0U);
 }

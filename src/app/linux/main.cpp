@@ -37,8 +37,7 @@ int main(int argc, char** argv) {
     const auto onUserInterface = [](std::function<void()> call) {
         qt::Desktop::post(std::chrono::microseconds(0), std::move(call));
     };
-    speechd::SpeechdJawsApi jaws(latency.get(), onUserInterface);
-    speechd::SpeechdAutomationObjects automation(latency.get(), onUserInterface);
+    speechd::SpeechdReaderDrivers readers(latency.get(), onUserInterface);
     qt::ReaderDialogQt readerDialog;
     qt::AboutBoxQt aboutBox([&window] { return &window; });
     RealClock realClock;
@@ -47,7 +46,7 @@ int main(int argc, char** argv) {
     Clock& clock = replay ? static_cast<Clock&>(countingClock) : realClock;
     RealSleeper sleeper;
 
-    System system({window, timers, boxes, application, settings, shell, *player, jaws, automation,
+    System system({window, timers, boxes, application, settings, shell, *player, readers,
                    readerDialog, aboutBox, clock, sleeper},
                   replay.value_or(realClock.ticks()));
     desktop.setEscapedFailureHandler(

@@ -19,8 +19,7 @@
 #include "platform/windows/WinSettingsStore.h"
 #include "platform/windows/WinTimers.h"
 #include "platform/windows/WinWaveOut.h"
-#include "platform/windows/WindowsAutomation.h"
-#include "platform/windows/WindowsJawsApi.h"
+#include "platform/windows/WindowsReaders.h"
 #include "platform/windows/WindowsShell.h"
 #include "screen/System.h"
 
@@ -43,8 +42,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
             windows::Desktop::escapedOnAnyThread("PlaySound", failure);
         },
         windows::Desktop::post);
-    windows::WindowsJawsApi jaws;
-    windows::WindowsAutomationObjects automation;
+    windows::WindowsReaderDrivers readers;
     windows::WinReaderDialog readerDialog;
     windows::WinAboutBox aboutBox([&window] { return window.handle(); });
     RealClock realClock;
@@ -53,7 +51,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
     Clock& clock = replay ? static_cast<Clock&>(countingClock) : realClock;
     RealSleeper sleeper;
 
-    System system({window, timers, boxes, application, settings, shell, player, jaws, automation,
+    System system({window, timers, boxes, application, settings, shell, player, readers,
                    readerDialog, aboutBox, clock, sleeper},
                   replay.value_or(realClock.ticks()));
     desktop.setEscapedFailureHandler(

@@ -17,6 +17,7 @@ class QtApplication : public Application {
     std::string title() const override { return title_; }
     void setTitle(std::string title) override;
     Version version() const override { return {1, 0, 0}; }
+    unsigned platform() const override { return Platform::Linux; }
     void waitUntil(const std::function<bool()>& done) override;
     // Leaves every event loop without closing windows through their handlers; the caller
     // returns normally and the program ends once control is back in the event loop.

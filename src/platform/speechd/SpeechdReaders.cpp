@@ -4,56 +4,31 @@
 
 #include <string>
 
+#include "platform/Readers.h"
 #include "support/Failure.h"
 
 namespace marivox::speechd {
-namespace {
 
-constexpr std::string_view kSpeechClass = "GWSpeak.Speak";
-
-class SpeechdSpeechObject : public SpeechAutomationObject {
-  public:
-    SpeechdSpeechObject(probe::LatencyLog* latency, SpeechdQueue::Post post,
-                        LateFailureHandler lateFailure)
-        : queue_("marivox", latency, std::move(post)) {
-        queue_.connectNow();
-        queue_.onLateFailure(std::move(lateFailure));
-    }
-    void SpeakString(std::string_view text) override { queue_.say(text); }
-    void Silence() override { queue_.cancel(); }
-    void onLateFailure(LateFailureHandler handler) override {
-        queue_.onLateFailure(std::move(handler));
-    }
-
-  private:
-    SpeechdQueue queue_;
-};
-
-}  // namespace
-
-void SpeechdJawsApi::JFWSayString(std::string_view text, bool interrupt) {
-    if (interrupt) {
-        queue_.cancel();
-    }
-    queue_.say(text);
+SpeechdVoice::SpeechdVoice(probe::LatencyLog* latency, SpeechdQueue::Post post,
+                           LateFailureHandler lateFailure)
+    : queue_("marivox", latency, std::move(post)) {
+    queue_.onLateFailure(std::move(lateFailure));
 }
 
-void SpeechdJawsApi::JFWStopSpeech() {
-    queue_.cancel();
-}
-
-std::unique_ptr<SpeechAutomationObject> SpeechdAutomationObjects::CreateObject(
-    std::string_view className) {
-    if (className != kSpeechClass) {
+std::unique_ptr<ReaderVoice> SpeechdReaderDrivers::voiceOf(std::string_view reader) {
+    auto voice = std::make_unique<SpeechdVoice>(latency_, post_, lateFailure_);
+    if (reader == kWindowEyes.stored) {
+        try {
+            voice->connectNow();
+        } catch (const Failure& failure) {
+            throw Failure(FailureNumber::SpeechObjectCreation,
+                          "Window-Eyes speech could not be started. " + failure.description());
+        }
+    } else if (reader != kJaws.stored) {
         throw Failure(FailureNumber::SpeechObjectCreation,
-                      "The speech object \"" + std::string(className) + "\" is not available");
+                      "The screen reader \"" + std::string(reader) + "\" is not on this system");
     }
-    try {
-        return std::make_unique<SpeechdSpeechObject>(latency_, post_, lateFailure_);
-    } catch (const Failure& failure) {
-        throw Failure(FailureNumber::SpeechObjectCreation,
-                      "Window-Eyes speech could not be started. " + failure.description());
-    }
+    return voice;
 }
 
 }  // namespace marivox::speechd

@@ -7,39 +7,37 @@
 
 namespace marivox::speechd {
 
-// The "JFW" choice on Linux: like the JAWS library it is loaded, here connected, at its
-// first call, and it speaks through speech-dispatcher. Calls return at once; a failure is
-// told later, to the late-failure handler.
-class SpeechdJawsApi : public JawsApi {
+// Both readers of the Linux dialog speak through speech-dispatcher, the speech service Orca
+// uses. "JFW", like the JAWS library, is reached at its first call; "WE", like Window-Eyes's
+// object, is started when chosen: it connects at once, so a missing service is reported when
+// the player makes the choice. Every later call returns at once and a failure is told later,
+// to the late-failure handler.
+class SpeechdReaderDrivers : public ReaderDrivers {
   public:
-    SpeechdJawsApi(probe::LatencyLog* latency, SpeechdQueue::Post post)
-        : queue_("marivox", latency, std::move(post)) {}
-
-    void JFWSayString(std::string_view text, bool interrupt) override;
-    void JFWStopSpeech() override;
-    void onLateFailure(LateFailureHandler handler) override {
-        queue_.onLateFailure(std::move(handler));
-    }
-
-  private:
-    SpeechdQueue queue_;
-};
-
-// The "WE" choice on Linux: creating the speech object connects to speech-dispatcher at
-// once, so a missing service is reported when the player makes the choice; its later calls
-// return at once, as the JFW choice's do.
-class SpeechdAutomationObjects : public AutomationObjects {
-  public:
-    SpeechdAutomationObjects(probe::LatencyLog* latency, SpeechdQueue::Post post)
+    SpeechdReaderDrivers(probe::LatencyLog* latency, SpeechdQueue::Post post)
         : latency_(latency), post_(std::move(post)) {}
 
-    std::unique_ptr<SpeechAutomationObject> CreateObject(std::string_view className) override;
+    std::unique_ptr<ReaderVoice> voiceOf(std::string_view reader) override;
     void onLateFailure(LateFailureHandler handler) override { lateFailure_ = std::move(handler); }
 
   private:
     probe::LatencyLog* latency_;
     SpeechdQueue::Post post_;
     LateFailureHandler lateFailure_;
+};
+
+// A voice on its own connection to speech-dispatcher.
+class SpeechdVoice : public ReaderVoice {
+  public:
+    SpeechdVoice(probe::LatencyLog* latency, SpeechdQueue::Post post,
+                 LateFailureHandler lateFailure);
+    // Connects now rather than at the first call; a failure is thrown.
+    void connectNow() { queue_.connectNow(); }
+    void say(std::string_view text) override { queue_.say(text); }
+    void stop() override { queue_.cancel(); }
+
+  private:
+    SpeechdQueue queue_;
 };
 
 }  // namespace marivox::speechd

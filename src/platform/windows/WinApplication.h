@@ -16,6 +16,7 @@ class WinApplication : public Application {
     std::string title() const override { return title_; }
     void setTitle(std::string title) override { title_ = std::move(title); }
     Version version() const override { return {1, 0, 0}; }
+    unsigned platform() const override { return Platform::Windows; }
     void waitUntil(const std::function<bool()>& done) override;
     void endNow() override;
     bool isEnding() const { return ending_; }

@@ -2,12 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/WindowsAutomation.h"
 
-#include <windows.h>
-// After windows.h, which it needs.
 #include <ole2.h>
 
 #include <cstdio>
-#include <string>
+#include <vector>
 
 #include "platform/windows/WindowsText.h"
 #include "support/Failure.h"
@@ -21,29 +19,11 @@ std::string hex(HRESULT result) {
     return text;
 }
 
-// A BSTR that frees itself.
-class Bstr {
-  public:
-    explicit Bstr(std::string_view utf8) : value_(SysAllocString(wideText(utf8).c_str())) {}
-    ~Bstr() { SysFreeString(value_); }
-    Bstr(const Bstr&) = delete;
-    Bstr& operator=(const Bstr&) = delete;
-    BSTR get() const { return value_; }
-
-  private:
-    BSTR value_;
-};
-
 // What the object said went wrong, when it says anything.
 std::string describe(HRESULT result, EXCEPINFO& exception) {
     std::string text = "HRESULT " + hex(result);
     if (exception.bstrDescription != nullptr) {
-        const int length = WideCharToMultiByte(CP_UTF8, 0, exception.bstrDescription, -1, nullptr,
-                                               0, nullptr, nullptr);
-        std::string description(static_cast<std::size_t>(length > 0 ? length - 1 : 0), '\0');
-        WideCharToMultiByte(CP_UTF8, 0, exception.bstrDescription, -1, description.data(), length,
-                            nullptr, nullptr);
-        text += ": " + description;
+        text += ": " + utf8Text(exception.bstrDescription);
     }
     SysFreeString(exception.bstrSource);
     SysFreeString(exception.bstrDescription);
@@ -51,52 +31,31 @@ std::string describe(HRESULT result, EXCEPINFO& exception) {
     return text;
 }
 
-class WindowsSpeechObject : public SpeechAutomationObject {
-  public:
-    explicit WindowsSpeechObject(IDispatch* object) : object_(object) {}
-    ~WindowsSpeechObject() override { object_->Release(); }
-    WindowsSpeechObject(const WindowsSpeechObject&) = delete;
-    WindowsSpeechObject& operator=(const WindowsSpeechObject&) = delete;
-
-    void SpeakString(std::string_view text) override {
-        Bstr argument(text);
-        VARIANT value;
-        VariantInit(&value);
-        value.vt = VT_BSTR;
-        value.bstrVal = argument.get();
-        call(L"SpeakString", &value, 1);
-    }
-
-    void Silence() override { call(L"Silence", nullptr, 0); }
-
-  private:
-    void call(const wchar_t* method, VARIANT* arguments, UINT count) {
-        LPOLESTR name = const_cast<LPOLESTR>(method);
-        DISPID id = 0;
-        HRESULT result = object_->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id);
-        if (FAILED(result)) {
-            throw Failure(FailureNumber::SpeechUnavailable,
-                          "Window-Eyes's speech object has no method " +
-                              std::string(method, method + wcslen(method)) + " (" + hex(result) +
-                              ")");
-        }
-        DISPPARAMS parameters{arguments, nullptr, count, 0};
-        EXCEPINFO exception{};
-        result = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
-                                 nullptr, &exception, nullptr);
-        if (FAILED(result)) {
-            throw Failure(FailureNumber::SpeechUnavailable,
-                          "Window-Eyes did not speak: " + describe(result, exception));
-        }
-    }
-
-    IDispatch* object_;
-};
-
 }  // namespace
 
-std::unique_ptr<SpeechAutomationObject> WindowsAutomationObjects::CreateObject(
-    std::string_view className) {
+Argument Argument::text(std::string_view utf8) {
+    Argument argument;
+    argument.value_.vt = VT_BSTR;
+    argument.value_.bstrVal = SysAllocString(wideText(utf8).c_str());
+    return argument;
+}
+
+Argument Argument::flag(bool value) {
+    Argument argument;
+    argument.value_.vt = VT_BOOL;
+    argument.value_.boolVal = value ? VARIANT_TRUE : VARIANT_FALSE;
+    return argument;
+}
+
+Argument Argument::number(long value) {
+    Argument argument;
+    argument.value_.vt = VT_I4;
+    argument.value_.lVal = value;
+    return argument;
+}
+
+AutomationObject::AutomationObject(std::string_view className, std::string owner)
+    : owner_(std::move(owner)) {
     // The game's thread may not have met COM yet; a thread set up otherwise is fine as it is.
     const HRESULT initialised = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     (void)initialised;
@@ -107,15 +66,45 @@ std::unique_ptr<SpeechAutomationObject> WindowsAutomationObjects::CreateObject(
                       "The speech object " + std::string(className) + " is not installed (" +
                           hex(result) + ")");
     }
-    IDispatch* object = nullptr;
-    result =
-        CoCreateInstance(id, nullptr, CLSCTX_ALL, IID_IDispatch, reinterpret_cast<void**>(&object));
-    if (FAILED(result) || object == nullptr) {
+    result = CoCreateInstance(id, nullptr, CLSCTX_ALL, IID_IDispatch,
+                              reinterpret_cast<void**>(&object_));
+    if (FAILED(result) || object_ == nullptr) {
         throw Failure(FailureNumber::SpeechObjectCreation,
                       "The speech object " + std::string(className) + " could not be created (" +
                           hex(result) + ")");
     }
-    return std::make_unique<WindowsSpeechObject>(object);
+}
+
+AutomationObject::~AutomationObject() {
+    object_->Release();
+}
+
+void AutomationObject::call(const wchar_t* method,
+                            std::initializer_list<const Argument*> arguments) {
+    LPOLESTR name = const_cast<LPOLESTR>(method);
+    DISPID id = 0;
+    HRESULT result = object_->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &id);
+    if (FAILED(result)) {
+        throw Failure(FailureNumber::SpeechUnavailable, owner_ + "'s speech object has no method " +
+                                                            utf8Text(method) + " (" + hex(result) +
+                                                            ")");
+    }
+    // IDispatch takes the arguments last to first.
+    std::vector<VARIANT> reversed;
+    for (auto it = std::rbegin(arguments); it != std::rend(arguments); ++it) {
+        reversed.push_back((*it)->value());
+    }
+    DISPPARAMS parameters{reversed.data(), nullptr, static_cast<UINT>(reversed.size()), 0};
+    EXCEPINFO exception{};
+    VARIANT ignored;
+    VariantInit(&ignored);
+    result = object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                             &ignored, &exception, nullptr);
+    VariantClear(&ignored);
+    if (FAILED(result)) {
+        throw Failure(FailureNumber::SpeechUnavailable,
+                      owner_ + " did not speak: " + describe(result, exception));
+    }
 }
 
 }  // namespace marivox::windows

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/windows/WindowsJawsApi.h"
+#include "platform/windows/JawsVoice.h"
 
 #include "platform/windows/WindowsText.h"
 #include "support/Failure.h"
@@ -24,13 +24,13 @@ Function exported(HMODULE library, const char* name) {
 
 }  // namespace
 
-WindowsJawsApi::~WindowsJawsApi() {
+JawsVoice::~JawsVoice() {
     if (library_ != nullptr) {
         FreeLibrary(library_);
     }
 }
 
-void WindowsJawsApi::load() {
+void JawsVoice::load() {
     if (say_ != nullptr && stop_ != nullptr) {
         return;
     }
@@ -57,13 +57,13 @@ void WindowsJawsApi::load() {
     }
 }
 
-void WindowsJawsApi::JFWSayString(std::string_view text, bool interrupt) {
+void JawsVoice::say(std::string_view text) {
     load();
     const std::string ansi = ansiText(text);
-    say_(ansi.c_str(), interrupt ? TRUE : FALSE);
+    say_(ansi.c_str(), FALSE);  // never interrupts: the text follows what is being said
 }
 
-void WindowsJawsApi::JFWStopSpeech() {
+void JawsVoice::stop() {
     load();
     stop_();
 }

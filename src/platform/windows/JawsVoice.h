@@ -10,11 +10,15 @@
 
 namespace marivox::windows {
 
-class WindowsJawsApi : public JawsApi {
+class JawsVoice : public ReaderVoice {
   public:
-    ~WindowsJawsApi() override;
-    void JFWSayString(std::string_view text, bool interrupt) override;
-    void JFWStopSpeech() override;
+    JawsVoice() = default;
+    ~JawsVoice() override;
+    JawsVoice(const JawsVoice&) = delete;
+    JawsVoice& operator=(const JawsVoice&) = delete;
+
+    void say(std::string_view text) override;
+    void stop() override;
 
   private:
     void load();
