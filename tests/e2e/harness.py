@@ -10,6 +10,7 @@ session ends, whether the test passed or not.
 
 import array
 import functools
+import json
 import os
 import re
 import shutil
@@ -48,8 +49,9 @@ def wait_until(condition, timeout, interval=0.02):
 
 class Session:
     def __init__(self, stored_reader="JFW", speech=True, audio=True, program=None, orca=False,
-                 launcher=()):
+                 launcher=(), orca_settings=None):
         self.stored_reader = stored_reader
+        self.orca_settings = orca_settings  # Orca's general settings, written before it starts
         self.with_speech = speech
         self.with_audio = audio
         self.with_orca = orca
@@ -76,6 +78,8 @@ class Session:
             if self.with_audio:
                 self._start_audio()
             self._write_settings()
+            if self.orca_settings is not None:
+                self.write_orca_settings(self.orca_settings)
             if self.with_orca:
                 self._start_orca()
         except BaseException:
@@ -182,8 +186,9 @@ class Session:
                           stdout=subprocess.DEVNULL).returncode == 0:
             raise unittest.SkipTest("an Orca of this user is running; it is left alone")
         log = open(os.path.join(self.dir, "orca.log"), "w")
-        self.orca = self._spawn("orca", ["orca"], env=self._base_env(), stdout=log,
-                                stderr=subprocess.STDOUT)
+        self.orca_debug = os.path.join(self.dir, "orca-debug.log")
+        self.orca = self._spawn("orca", ["orca", "--debug-file=" + self.orca_debug],
+                                env=self._base_env(), stdout=log, stderr=subprocess.STDOUT)
         log.close()
         self.wait_for_text("Screen reader on.", timeout=30)
 
@@ -194,6 +199,15 @@ class Session:
         os.makedirs(folder, exist_ok=True)
         with open(os.path.join(folder, "Marivox.conf"), "w") as conf:
             conf.write("[StartUp]\nReader=%s\n" % self.stored_reader)
+
+    def write_orca_settings(self, general):
+        """Orca's settings file as Orca writes it, with these general settings."""
+        folder = os.path.join(self.dir, "home", ".local", "share", "orca")
+        os.makedirs(folder, exist_ok=True)
+        prefs = {"general": general, "profiles": {"default": {"profile": ["Default", "default"]}},
+                 "pronunciations": {}, "keybindings": {}}
+        with open(os.path.join(folder, "user-settings.conf"), "w") as conf:
+            json.dump(prefs, conf)
 
     def close(self):
         for name, process in reversed(self.processes):
@@ -355,6 +369,26 @@ class Session:
     def texts(self):
         return [text for _, text in self.spoken()]
 
+    def orca_outputs(self):
+        """What Orca has handed to speech, from its debug log. Orca 48 cuts off its own
+        reading of a box when it gets to the key press that opened it, so a box's text may
+        never reach the speech service whole."""
+        try:
+            with open(self.orca_debug, errors="replace") as log:
+                return re.findall(r"SPEECH OUTPUT: '(.*?)' \{", log.read(), re.S)
+        except (AttributeError, FileNotFoundError):
+            return []
+
+    def voices(self):
+        """The voice of each utterance, in the order of spoken(): rate, pitch and volume as
+        speech-dispatcher's numbers, the voice's name and the language."""
+        try:
+            with open(os.path.join(os.path.dirname(self.spoken_log), "voice.log")) as log:
+                lines = [line.split("|") for line in log.read().splitlines()]
+        except FileNotFoundError:
+            return []
+        return [(int(f[0]), int(f[1]), int(f[2]), f[3], f[4]) for f in lines if len(f) >= 5]
+
     def wait_for_text(self, text, timeout=15, after=0):
         """Waits until `text` is spoken (after the first `after` utterances); its time."""
         def found():
@@ -366,6 +400,13 @@ class Session:
         if hit is None:
             raise AssertionError("never heard %r; heard %r" % (text, self.texts()))
         return hit[0]
+
+    def wait_quiet(self, seconds, timeout=15):
+        """Waits until nothing more has been said for `seconds`."""
+        def quiet():
+            said = self.spoken()
+            return not said or said[-1][0] < time.time() - self.started_at - seconds
+        wait_until(quiet, timeout, 0.1)
 
     def wait_for_count(self, count, timeout=15):
         wait_until(lambda: len(self.spoken()) >= count, timeout)

@@ -3,11 +3,13 @@
 // Marivox: builds the desktop, the speech service and the sound device, and starts the game.
 #include <chrono>
 
+#include "app/linux/LinuxReaders.h"
 #include "platform/probe/LatencyLog.h"
 #include "platform/pulse/PulseOutput.h"
 #include "platform/qt/Desktop.h"
 #include "platform/qt/Dialogs.h"
 #include "platform/qt/GameWindowQt.h"
+#include "platform/qt/OrcaSettings.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/QtSettingsStore.h"
@@ -37,7 +39,11 @@ int main(int argc, char** argv) {
     const auto onUserInterface = [](std::function<void()> call) {
         qt::Desktop::post(std::chrono::microseconds(0), std::move(call));
     };
-    speechd::SpeechdReaderDrivers readers(latency.get(), onUserInterface);
+    // Whenever the game speaks through speech-dispatcher itself, in the player's Orca voice.
+    qt::OrcaSettings orca;
+    speechd::SpeechdReaderDrivers speechd(latency.get(), onUserInterface,
+                                          [&orca] { return orca.voice(); });
+    LinuxReaders readers(speechd, window);
     qt::ReaderDialogQt readerDialog;
     qt::AboutBoxQt aboutBox([&window] { return &window; });
     RealClock realClock;

@@ -87,6 +87,40 @@ void SpeechdConnection::connect() {
     }
     std::free(error);
     boundSocketWaits(client_->connection);
+    applyVoice();
+}
+
+void SpeechdConnection::useVoice(const VoiceSettings& voice) {
+    if (voice == voice_) {
+        return;
+    }
+    voice_ = voice;
+    close();  // the next call connects afresh in the new voice
+}
+
+// In the order Orca sets them: the synthesizer, then the language and the voice within it,
+// then rate, pitch and volume. A setting the service refuses leaves its default: the text is
+// still worth saying.
+void SpeechdConnection::applyVoice() {
+    SPDConnection* connection = client_->connection;
+    if (!voice_.outputModule.empty()) {
+        spd_set_output_module(connection, voice_.outputModule.c_str());
+    }
+    if (!voice_.language.empty()) {
+        spd_set_language(connection, voice_.language.c_str());
+    }
+    if (!voice_.synthesisVoice.empty()) {
+        spd_set_synthesis_voice(connection, voice_.synthesisVoice.c_str());
+    }
+    if (voice_.rate) {
+        spd_set_voice_rate(connection, *voice_.rate);
+    }
+    if (voice_.pitch) {
+        spd_set_voice_pitch(connection, *voice_.pitch);
+    }
+    if (voice_.volume) {
+        spd_set_volume(connection, *voice_.volume);
+    }
 }
 
 void SpeechdConnection::say(std::string_view text) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/speechd/VoiceSettings.h"
+
 namespace marivox::speechd {
 
 // One client connection to speech-dispatcher, the speech service Orca uses. It connects on
@@ -24,15 +26,20 @@ class SpeechdConnection {
     void say(std::string_view text);
     // Silences what is being said and drops what this client has queued.
     void cancel();
+    // Speaks from now on in this voice. Settings that change start a new connection, so
+    // whatever is no longer given falls back to the service's default.
+    void useVoice(const VoiceSettings& voice);
 
   private:
     [[noreturn]] void fail(const std::string& what);
     void close();
+    void applyVoice();
 
     struct Client;  // libspeechd's connection, kept out of this header
     std::string clientName_;
     std::unique_ptr<Client> client_;
     bool saidSinceCancel_ = true;  // until a stop, assume something may still be speaking
+    VoiceSettings voice_;
 };
 
 // Where the game looks for the speech service, as a player would read it.

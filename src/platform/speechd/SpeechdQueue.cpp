@@ -6,8 +6,12 @@
 
 namespace marivox::speechd {
 
-SpeechdQueue::SpeechdQueue(std::string clientName, probe::LatencyLog* latency, Post post)
-    : connection_(std::move(clientName)), latency_(latency), post_(std::move(post)) {}
+SpeechdQueue::SpeechdQueue(std::string clientName, probe::LatencyLog* latency, Post post,
+                           VoiceSource voice)
+    : connection_(std::move(clientName)),
+      voice_(std::move(voice)),
+      latency_(latency),
+      post_(std::move(post)) {}
 
 SpeechdQueue::~SpeechdQueue() {
     {
@@ -67,6 +71,9 @@ void SpeechdQueue::work() {
         std::exception_ptr failure;
         try {
             if (call.kind == SpeechCall::Say) {
+                if (voice_) {
+                    connection_.useVoice(voice_());
+                }
                 connection_.say(call.text);
             } else {
                 connection_.cancel();

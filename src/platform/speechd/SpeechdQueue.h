@@ -27,7 +27,8 @@ class SpeechdQueue {
   public:
     using Post = std::function<void(std::function<void()>)>;
 
-    SpeechdQueue(std::string clientName, probe::LatencyLog* latency, Post post);
+    SpeechdQueue(std::string clientName, probe::LatencyLog* latency, Post post,
+                 VoiceSource voice = {});
     // Makes what is still queued, up to the first call that fails (told to no one: the
     // program is ending), and ends the thread.
     ~SpeechdQueue();
@@ -50,6 +51,7 @@ class SpeechdQueue {
     void work();
 
     SpeechdConnection connection_;  // used by the worker only, once it runs
+    VoiceSource voice_;             // asked by the worker
     probe::LatencyLog* latency_;
     Post post_;
     LateFailureHandler lateFailure_;  // user-interface thread only

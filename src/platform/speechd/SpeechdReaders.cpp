@@ -10,13 +10,13 @@
 namespace marivox::speechd {
 
 SpeechdVoice::SpeechdVoice(probe::LatencyLog* latency, SpeechdQueue::Post post,
-                           LateFailureHandler lateFailure)
-    : queue_("marivox", latency, std::move(post)) {
+                           LateFailureHandler lateFailure, VoiceSource voice)
+    : queue_("marivox", latency, std::move(post), std::move(voice)) {
     queue_.onLateFailure(std::move(lateFailure));
 }
 
 std::unique_ptr<ReaderVoice> SpeechdReaderDrivers::voiceOf(std::string_view reader) {
-    auto voice = std::make_unique<SpeechdVoice>(latency_, post_, lateFailure_);
+    auto voice = std::make_unique<SpeechdVoice>(latency_, post_, lateFailure_, voice_);
     if (reader == kWindowEyes.stored) {
         try {
             voice->connectNow();
@@ -24,7 +24,7 @@ std::unique_ptr<ReaderVoice> SpeechdReaderDrivers::voiceOf(std::string_view read
             throw Failure(FailureNumber::SpeechObjectCreation,
                           "Window-Eyes speech could not be started. " + failure.description());
         }
-    } else if (reader != kJaws.stored) {
+    } else if (reader != kJaws.stored && reader != kOrca.stored) {
         throw Failure(FailureNumber::SpeechObjectCreation,
                       "The screen reader \"" + std::string(reader) + "\" is not on this system");
     }
