@@ -4,7 +4,11 @@
 
 The game speaks through a private speech-dispatcher with Debian's espeak-ng module, which
 plays into a private PulseAudio whose null sink's monitor is recorded, silence included.
-Beside it, Orca reads the same moves on the same services (the game silent), as the anchor.
+Beside it, Orca reads the same moves on the same services (the game silent), as the anchor;
+and with the choice "Orca", Orca itself says the game's words, handed over as announcements
+where Qt can make them (6.8 on; on 6.4 the game speaks them through speech-dispatcher).
+
+    /usr/bin/python3 bench/audible.py [keys]   the three kinds of arrow alone, as a table
 
 Clocks: keys are injected through XTEST from this process, stamped with time.time() just
 before the request and after the round trip that shows the X server took it; the midpoint
@@ -21,11 +25,14 @@ configured latency, read from PulseAudio during play.
 import os
 import re
 import subprocess
+import sys
 import time
 
-import harness
-from Xlib import X, XK, display
-from Xlib.ext import xtest
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))),
+                                "tests", "e2e"))
+import harness  # noqa: E402
+from Xlib import X, XK, display  # noqa: E402
+from Xlib.ext import xtest  # noqa: E402
 
 SPEECHD = os.path.join(harness.HERE, "speechd", "start-private-speechd")
 LOUD = 300  # of 32767, about -40 dBFS: the idle null sink gives exact zeros
@@ -202,11 +209,13 @@ class Audible:
 
 
 def measure(keys, shots):
-    """{"game arrows", "orca arrows", "shots", "error"}: ms lists and the clock error."""
+    """{"game arrows", "orca arrows", "announced arrows", "shots", "error"}: ms lists and the
+    clock error. Orca reads the moves itself under a choice that names no reader here."""
     results, errors, ahead = {}, [], []
     for reader, orca, work in (("JFW", False, lambda a: {"game arrows": a.arrows(keys),
                                                          "shots": a.shots(shots)}),
-                               ("Orca", True, lambda a: {"orca arrows": a.arrows(keys)})):
+                               ("NVDA", True, lambda a: {"orca arrows": a.arrows(keys)}),
+                               ("Orca", True, lambda a: {"announced arrows": a.arrows(keys)})):
         audible = Audible(reader, orca)
         try:
             audible.start()
@@ -217,3 +226,19 @@ def measure(keys, shots):
             audible.close()
     results["error"] = (max(errors) + max(ahead or [0])) * 1000 if errors else None
     return results
+
+
+def main(keys):
+    import statistics
+    results = measure(keys, 0)
+    print("Arrow: key to the first audible sample (ms); clock error %.1f ms" % results["error"])
+    for kind in ("game arrows", "announced arrows", "orca arrows"):
+        delays = sorted(results[kind])
+        p99 = delays[min(len(delays) - 1, int(len(delays) * 0.99))] if delays else float("nan")
+        print("  %-17s n=%3d  p50 %7.1f  p99 %7.1f" % (
+            kind, len(delays), statistics.median(delays) if delays else float("nan"), p99))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(int(sys.argv[1]) if len(sys.argv) > 1 else 100))
