@@ -25,9 +25,10 @@ inline constexpr unsigned kEveryPlatform = Platform::Linux | Platform::Windows;
 
 inline constexpr ReaderRow kJaws{"JFW", "JAWS For Windows", kEveryPlatform, false, true};
 inline constexpr ReaderRow kWindowEyes{"WE", "Window-Eyes", kEveryPlatform, true, false};
+inline constexpr ReaderRow kNvda{"NVDA", "NVDA", Platform::Windows, false, false};
 
 // In the dialog's order: the first is selected when it opens.
-inline constexpr std::array kReaders{&kJaws, &kWindowEyes};
+inline constexpr std::array kReaders{&kJaws, &kWindowEyes, &kNvda};
 
 // What the choice holds when no reader is chosen, and what an empty setting reads as.
 inline constexpr std::string_view kNoReader = "None";

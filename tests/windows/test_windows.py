@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The Windows game played by ear under Wine, in the same private session as on Linux (Xvfb,
 a recording PulseAudio, which Wine plays into): the real marivox.exe, with stand-ins for the
-screen readers (JAWS's library, the automation objects) that write down
+screen readers (JAWS's library, the automation objects, NVDA's controller) that write down
 every call they get. What the windows hold is read as a screen reader would, by a small
 Windows program of the tests' own (readwindows.exe)."""
 
@@ -106,6 +106,19 @@ class WindowsGame(unittest.TestCase):
         self.wine("reg", "add", server, "/v", "ThreadingModel", "/d", "Apartment", "/f")
         self.wine("reg", "add", CLASSES + "\\" + prog_id + r"\CLSID", "/ve", "/d", RECORDER_CLASS,
                   "/f")
+
+    def serve_nvda(self):
+        """Starts the NVDA stand-in, listening once this returns; returns what stops it."""
+        nvda = subprocess.Popen(["wine", os.path.join(STANDINS, "nvda_standin.exe")],
+                                env=self.session._base_env(), stdin=subprocess.PIPE,
+                                stdout=subprocess.PIPE, text=True)
+        self.assertEqual(nvda.stdout.readline(), "ready\n")
+
+        def stop():
+            nvda.stdin.close()
+            nvda.wait(30)
+        self.addCleanup(lambda: nvda.poll() is not None or stop())
+        return stop
 
 
 class FirstStart(WindowsGame):
@@ -285,6 +298,41 @@ class JawsObject(ByEar, WindowsGame):
     def setUp(self):
         super().setUp()
         self.register("FreedomSci.JawsApi")
+
+
+class Nvda(ByEar, WindowsGame):
+    stored_reader = "NVDA"
+    STOP, SAY = ("cancelSpeech", ""), "speakText"
+
+    def braille(self, message):
+        return "brailleMessage", message
+
+    def setUp(self):
+        super().setUp()
+        self.serve_nvda()
+
+
+class NvdaOutage(WindowsGame):
+    stored_reader = "NVDA"
+
+    def test_each_outage_is_reported_once_and_play_goes_on(self):
+        self.start()
+        self.wait_for_window("button|OK", 30)
+        reports = [line for line in self.windows() if "could not be reached" in line]
+        self.assertEqual(len(reports), 1, reports)
+        self.assertIn("NVDA could not be reached: it is not running", reports[0])
+        self.assertTrue(reports[0].endswith(" StopSpeech()"), reports)
+        self.keys("Return", window=self.session.window_id())
+        self.keys("Right", "Right")  # to A 3, unheard and unreported
+        self.assertFalse(harness.wait_until(lambda: self.showing("button|OK"), 3, 0.3),
+                         self.windows())
+        stop = self.serve_nvda()
+        self.keys("Right")
+        self.wait_for_text("A  4", call="speakText")
+        stop()
+        self.keys("Left")
+        self.wait_for_window("button|OK")
+        self.assertIsNone(self.session.game.poll())
 
 
 class Package(WindowsGame):

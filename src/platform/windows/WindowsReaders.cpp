@@ -6,6 +6,7 @@
 
 #include "platform/Readers.h"
 #include "platform/windows/JawsVoice.h"
+#include "platform/windows/NvdaVoice.h"
 #include "platform/windows/WindowsAutomation.h"
 #include "support/Failure.h"
 
@@ -34,6 +35,9 @@ std::unique_ptr<ReaderVoice> WindowsReaderDrivers::voiceOf(std::string_view read
     }
     if (reader == kWindowEyes.stored) {
         return std::make_unique<WindowEyesVoice>();
+    }
+    if (reader == kNvda.stored) {
+        return std::make_unique<NvdaVoice>();
     }
     throw Failure(FailureNumber::SpeechObjectCreation,
                   "The screen reader \"" + std::string(reader) + "\" is not on this system");
