@@ -312,6 +312,15 @@ class Nvda(ByEar, WindowsGame):
         self.serve_nvda()
 
 
+class WindowsVoices(ByEar, WindowsGame):
+    stored_reader = "SAPI"
+    STOP, SAY = ("Speak 3", ""), "Speak 17"  # stopped by a purge, said asynchronously as text
+
+    def setUp(self):
+        super().setUp()
+        self.register("SAPI.SpVoice")
+
+
 class NvdaOutage(WindowsGame):
     stored_reader = "NVDA"
 
