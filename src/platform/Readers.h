@@ -25,11 +25,15 @@ inline constexpr unsigned kEveryPlatform = Platform::Linux | Platform::Windows;
 
 inline constexpr ReaderRow kJaws{"JFW", "JAWS For Windows", kEveryPlatform, false, true};
 inline constexpr ReaderRow kWindowEyes{"WE", "Window-Eyes", kEveryPlatform, true, false};
+inline constexpr ReaderRow kNvda{"NVDA", "NVDA", Platform::Windows, false, false};
+inline constexpr ReaderRow kWindowsVoices{"SAPI", "Windows voices (no screen reader)",
+                                          Platform::Windows, false, false};
 // Orca itself: the game's words go to Orca as announcements where the desktop can make them.
 inline constexpr ReaderRow kOrca{"Orca", "Orca", Platform::Linux, false, false};
 
-// In the dialog's order: the first is selected when it opens.
-inline constexpr std::array kReaders{&kJaws, &kWindowEyes, &kOrca};
+// In the dialog's order: the first is selected when it opens. Each platform lists its own,
+// after the two every platform has.
+inline constexpr std::array kReaders{&kJaws, &kWindowEyes, &kNvda, &kWindowsVoices, &kOrca};
 
 // What the choice holds when no reader is chosen, and what an empty setting reads as.
 inline constexpr std::string_view kNoReader = "None";

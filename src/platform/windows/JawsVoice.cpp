@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/JawsVoice.h"
 
+#include <algorithm>
+
 #include "platform/windows/WindowsText.h"
 #include "support/Failure.h"
 
 namespace marivox::windows {
 namespace {
+
+constexpr std::string_view kObjectClass = "FreedomSci.JawsApi";
 
 // JAWS installs its API library in its own folder and on the path as jfwapi.dll; 64-bit
 // installations add a 64-bit build beside it, which a 64-bit game must load instead.
@@ -22,6 +26,13 @@ Function exported(HMODULE library, const char* name) {
     return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
 }
 
+// A call of JAWS's script function that shows the message on the braille display. Its
+// scripts' strings have no escape for their own quotes, so the text's become apostrophes.
+std::string brailleCall(std::string message) {
+    std::replace(message.begin(), message.end(), '"', '\'');
+    return "BrailleString(\"" + message + "\")";
+}
+
 }  // namespace
 
 JawsVoice::~JawsVoice() {
@@ -30,10 +41,18 @@ JawsVoice::~JawsVoice() {
     }
 }
 
-void JawsVoice::load() {
-    if (say_ != nullptr && stop_ != nullptr) {
+void JawsVoice::reach() {
+    if (object_ || (say_ != nullptr && stop_ != nullptr)) {
         return;
     }
+    try {
+        object_.emplace(kObjectClass, "JAWS For Windows");
+    } catch (const Failure& failure) {
+        loadLibrary(failure.description());
+    }
+}
+
+void JawsVoice::loadLibrary(const std::string& objectFailure) {
     for (const wchar_t* name : kLibraries) {
         library_ = LoadLibraryW(name);
         if (library_ != nullptr) {
@@ -43,7 +62,8 @@ void JawsVoice::load() {
     if (library_ == nullptr) {
         throw Failure(FailureNumber::SpeechUnavailable,
                       "JAWS For Windows could not be reached: its API library jfwapi.dll was "
-                      "not found");
+                      "not found, nor its automation object. " +
+                          objectFailure);
     }
     say_ = exported<SayString>(library_, "JFWSayString");
     stop_ = exported<StopSpeech>(library_, "JFWStopSpeech");
@@ -58,14 +78,27 @@ void JawsVoice::load() {
 }
 
 void JawsVoice::say(std::string_view text) {
-    load();
-    const std::string ansi = ansiText(text);
-    say_(ansi.c_str(), FALSE);  // never interrupts: the text follows what is being said
+    reach();
+    if (!object_) {
+        const std::string ansi = ansiText(text);
+        say_(ansi.c_str(), FALSE);  // never interrupts: the text follows what is being said
+        return;
+    }
+    const Argument spoken = Argument::text(text);
+    const Argument flush = Argument::flag(false);
+    object_->call(L"SayString", {&spoken, &flush});
+    const Argument braille = Argument::text(brailleCall(braille_.add(text)));
+    object_->call(L"RunFunction", {&braille});
 }
 
 void JawsVoice::stop() {
-    load();
-    stop_();
+    reach();
+    braille_.clear();
+    if (object_) {
+        object_->call(L"StopSpeech");
+    } else {
+        stop_();
+    }
 }
 
 }  // namespace marivox::windows

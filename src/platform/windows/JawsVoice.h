@@ -1,12 +1,18 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// The "JFW" choice on Windows: JAWS For Windows's API library, loaded by name at the first
-// call and called through the two functions it exports.
+// The "JFW" choice on Windows: JAWS For Windows's automation object "FreedomSci.JawsApi",
+// which also shows the game's words in braille; where it is not registered (older JAWS), its
+// API library, loaded by name and called through the two functions it exports. Reached at
+// the first call, and afresh at each call until one of them is there.
 
 #include <windows.h>
 
+#include <optional>
+
 #include "platform/ScreenReaders.h"
+#include "platform/windows/BrailleMessage.h"
+#include "platform/windows/WindowsAutomation.h"
 
 namespace marivox::windows {
 
@@ -21,7 +27,11 @@ class JawsVoice : public ReaderVoice {
     void stop() override;
 
   private:
-    void load();
+    void reach();
+    void loadLibrary(const std::string& objectFailure);
+
+    std::optional<AutomationObject> object_;
+    BrailleMessage braille_;
 
     using SayString = BOOL(WINAPI*)(LPCSTR text, BOOL interrupt);
     using StopSpeech = BOOL(WINAPI*)();

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/WinDialogs.h"
 
+#include <algorithm>
+
 #include "platform/FormLayouts.h"
 #include "platform/windows/WinDesktop.h"
 #include "platform/windows/WinTwips.h"
@@ -66,9 +68,9 @@ void WinReaderDialog::showModal(ReaderDialogEvents& events) {
     // still the first place the focus goes.
     createControl(window_, L"STATIC", wideText(layout::kReaderLabel.text).c_str(), SS_LEFT,
                   layout::kReaderLabel.place, 0);
-    list_ =
-        createControl(window_, L"LISTBOX", L"", WS_BORDER | WS_VSCROLL | WS_TABSTOP | LBS_NOTIFY,
-                      layout::kReaderList, kList);
+    list_ = createControl(window_, L"LISTBOX", L"",
+                          WS_BORDER | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP | LBS_NOTIFY,
+                          layout::kReaderList, kList);
     createControl(window_, L"BUTTON", L"OK", WS_TABSTOP | BS_DEFPUSHBUTTON, layout::kReaderOk,
                   IDOK);
     events.Form_Load();
@@ -91,7 +93,20 @@ void WinReaderDialog::addItem(std::string_view item) {
     if (list_ == nullptr) {
         notOpen();
     }
-    SendMessageW(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(wideText(item).c_str()));
+    const std::wstring text = wideText(item);
+    SendMessageW(list_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+    // A line wider than the list ("Windows voices (no screen reader)") can be scrolled into
+    // view rather than cut off; the scroll bar shows only then.
+    HDC context = GetDC(list_);
+    const HGDIOBJ before =
+        SelectObject(context, reinterpret_cast<HGDIOBJ>(SendMessageW(list_, WM_GETFONT, 0, 0)));
+    SIZE size{};
+    GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
+    SelectObject(context, before);
+    ReleaseDC(list_, context);
+    const LRESULT widest = SendMessageW(list_, LB_GETHORIZONTALEXTENT, 0, 0);
+    SendMessageW(list_, LB_SETHORIZONTALEXTENT,
+                 static_cast<WPARAM>(std::max<LRESULT>(widest, size.cx + 4)), 0);
 }
 
 int WinReaderDialog::listIndex() const {

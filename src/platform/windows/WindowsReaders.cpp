@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/windows/WindowsReaders.h"
 
+#include <optional>
 #include <string>
 
 #include "platform/Readers.h"
 #include "platform/windows/JawsVoice.h"
+#include "platform/windows/NvdaVoice.h"
+#include "platform/windows/OutageReport.h"
 #include "platform/windows/WindowsAutomation.h"
 #include "support/Failure.h"
 
@@ -26,6 +29,35 @@ class WindowEyesVoice : public ReaderVoice {
     AutomationObject object_;
 };
 
+// The "SAPI" choice, for a player without a screen reader or with Narrator: Windows' own
+// voices through SAPI's automation object "SAPI.SpVoice", created at the first call.
+class WindowsVoice : public ReaderVoice {
+  public:
+    void say(std::string_view text) override { speak(text, kAsync | kNotXml); }
+    void stop() override { speak("", kAsync | kPurgeBeforeSpeak); }
+
+  private:
+    // SpeechVoiceSpeakFlags. Asynchronous, so that the game never waits for the words, and
+    // never read as markup, which the game's texts are not.
+    static constexpr long kAsync = 1;
+    static constexpr long kPurgeBeforeSpeak = 2;
+    static constexpr long kNotXml = 16;
+
+    void speak(std::string_view text, long flags) {
+        outage_.run([&] {
+            if (!object_) {
+                object_.emplace("SAPI.SpVoice", "Windows voices");
+            }
+            const Argument spoken = Argument::text(text);
+            const Argument how = Argument::number(flags);
+            object_->call(L"Speak", {&spoken, &how});
+        });
+    }
+
+    std::optional<AutomationObject> object_;
+    OutageReport outage_;
+};
+
 }  // namespace
 
 std::unique_ptr<ReaderVoice> WindowsReaderDrivers::voiceOf(std::string_view reader) {
@@ -34,6 +66,12 @@ std::unique_ptr<ReaderVoice> WindowsReaderDrivers::voiceOf(std::string_view read
     }
     if (reader == kWindowEyes.stored) {
         return std::make_unique<WindowEyesVoice>();
+    }
+    if (reader == kNvda.stored) {
+        return std::make_unique<NvdaVoice>();
+    }
+    if (reader == kWindowsVoices.stored) {
+        return std::make_unique<WindowsVoice>();
     }
     throw Failure(FailureNumber::SpeechObjectCreation,
                   "The screen reader \"" + std::string(reader) + "\" is not on this system");

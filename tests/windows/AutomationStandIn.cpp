@@ -1,22 +1,19 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A stand-in for the "GWSpeak.Speak" automation object, for tests only: an in-process COM
-// server whose SpeakString and Silence, called by name, are written down instead of spoken.
-// The tests register it in their own Wine prefix.
+// A stand-in for the readers' automation objects ("GWSpeak.Speak", "FreedomSci.JawsApi",
+// "SAPI.SpVoice"), for tests only: an in-process COM server of any class the tests register
+// it as, whose every method, called by name, is written down instead of done. The log's call
+// is the method's name followed by its arguments after the first; its text, the first.
 #include <objbase.h>
 #include <oleauto.h>
 
 #include <atomic>
+#include <vector>
 
 #include "StandInLog.h"
 
 namespace {
 
-// {6D1C2B7E-3F0A-4E59-9C1D-8A2B5E7F4C31}
-constexpr CLSID kClass{
-    0x6d1c2b7e, 0x3f0a, 0x4e59, {0x9c, 0x1d, 0x8a, 0x2b, 0x5e, 0x7f, 0x4c, 0x31}};
-constexpr DISPID kSpeakString = 1;
-constexpr DISPID kSilence = 2;
 std::atomic<long> objects{0};
 
 std::string utf8(const wchar_t* wide) {
@@ -26,7 +23,20 @@ std::string utf8(const wchar_t* wide) {
     return text;
 }
 
-class Speaker final : public IDispatch {
+std::string shown(const VARIANT& value) {
+    switch (value.vt) {
+        case VT_BSTR:
+            return utf8(value.bstrVal);
+        case VT_BOOL:
+            return value.boolVal ? "true" : "false";
+        case VT_I4:
+            return std::to_string(value.lVal);
+        default:
+            return "type " + std::to_string(value.vt);
+    }
+}
+
+class Recorder final : public IDispatch {
   public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override {
         if (id == IID_IUnknown || id == IID_IDispatch) {
@@ -51,30 +61,35 @@ class Speaker final : public IDispatch {
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    // Every name is a method: its number is its place in the names asked for.
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
                                             DISPID* ids) override {
         for (UINT i = 0; i < count; ++i) {
-            ids[i] = _wcsicmp(names[i], L"SpeakString") == 0 ? kSpeakString
-                     : _wcsicmp(names[i], L"Silence") == 0   ? kSilence
-                                                             : DISPID_UNKNOWN;
+            names_.push_back(utf8(names[i]));
+            ids[i] = static_cast<DISPID>(names_.size());
         }
-        return count == 1 && ids[0] != DISPID_UNKNOWN ? S_OK : DISP_E_UNKNOWNNAME;
+        return S_OK;
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* parameters,
                                      VARIANT*, EXCEPINFO*, UINT*) override {
-        if (id == kSilence && parameters->cArgs == 0) {
-            logCall("Silence", "");
-            return S_OK;
+        if (id < 1 || static_cast<std::size_t>(id) > names_.size()) {
+            return DISP_E_MEMBERNOTFOUND;
         }
-        if (id == kSpeakString && parameters->cArgs == 1 && parameters->rgvarg[0].vt == VT_BSTR) {
-            logCall("SpeakString", utf8(parameters->rgvarg[0].bstrVal));
-            return S_OK;
+        // IDispatch hands the arguments over last to first.
+        const auto argument = [parameters](UINT k) {
+            return shown(parameters->rgvarg[parameters->cArgs - 1 - k]);
+        };
+        std::string call = names_[static_cast<std::size_t>(id) - 1];
+        for (UINT k = 1; k < parameters->cArgs; ++k) {
+            call += " " + argument(k);
         }
-        return DISP_E_BADPARAMCOUNT;
+        logCall(call.c_str(), parameters->cArgs > 0 ? argument(0) : "");
+        return S_OK;
     }
 
   private:
     std::atomic<ULONG> references_{1};
+    std::vector<std::string> names_;
 };
 
 class Factory final : public IClassFactory {
@@ -93,10 +108,10 @@ class Factory final : public IClassFactory {
         if (outer != nullptr) {
             return CLASS_E_NOAGGREGATION;
         }
-        auto* speaker = new Speaker;
+        auto* recorder = new Recorder;
         ++objects;
-        const HRESULT result = speaker->QueryInterface(id, out);
-        speaker->Release();
+        const HRESULT result = recorder->QueryInterface(id, out);
+        recorder->Release();
         return result;
     }
     HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
@@ -107,11 +122,7 @@ Factory factory;
 }  // namespace
 
 extern "C" __declspec(dllexport) HRESULT STDAPICALLTYPE
-    DllGetClassObject(REFCLSID id, REFIID wanted, void** out) {
-    if (id != kClass) {
-        *out = nullptr;
-        return CLASS_E_CLASSNOTAVAILABLE;
-    }
+    DllGetClassObject(REFCLSID, REFIID wanted, void** out) {
     return factory.QueryInterface(wanted, out);
 }
 
