@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
-// What the game's windows hold and where, the same on every desktop: the menu tree of the
-// game screen, its legend, and the places of the dialogs' controls, in twips (1440 to the
-// inch).
+// What the game's windows hold and where, the same on every desktop: the game screen's board
+// and legend, and the places of the dialogs' controls, in twips (1440 to the inch). The menus
+// are platform/Commands.h's.
 
 #include <array>
 
@@ -14,40 +14,6 @@ namespace marivox::layout {
 struct Place {
     int left, top, width, height;
 };
-
-struct MenuItem {
-    const char* name;
-    const char* caption;
-    void (GameScreenEvents::*handler)();
-};
-
-struct Menu {
-    const char* name;
-    const char* caption;
-    std::array<MenuItem, 6> items;  // a shorter menu leaves its last ones empty
-};
-
-// Only New Game has a shortcut of its own (Ctrl+N); the keys named in other captions are the
-// key handler's.
-inline constexpr std::array<Menu, 3> kMenus{{
-    {"mnuGame",
-     "&Game",
-     {{{"mnuGameNew", "&New Game ", &GameScreenEvents::mnuGameNew_Click},
-       {"mnuGameReader", "&Screen Reader...", &GameScreenEvents::mnuGameReader_Click},
-       {"mnuGameExit", "E&xit Program", &GameScreenEvents::mnuGameExit_Click}}}},
-    {"mnuOptions",
-     "&Options",
-     {{{"mnuOptionsStatus", "&Speak Status - F2", &GameScreenEvents::mnuOptionsStatus_Click},
-       {"mnuOptionsShoot", "S&hoot - Enter", &GameScreenEvents::mnuOptionsShoot_Click},
-       {"mnuOptionsRow", "Read &Row - F3", &GameScreenEvents::mnuOptionsRow_Click},
-       {"mnuOptionsColumn", "Read &Column - F4", &GameScreenEvents::mnuOptionsColumn_Click},
-       {"mnuOptionsRepeat", "Re&peat - F5", &GameScreenEvents::mnuOptionsRepeat_Click},
-       {"mnuOptionsFleet", "Your &Fleet - F6", &GameScreenEvents::mnuOptionsFleet_Click}}}},
-    {"mnuHelp",
-     "&Help",
-     {{{"mnuHelpContents", "&Help Topics F1", &GameScreenEvents::mnuHelpContents_Click},
-       {"mnuHelpAbout", "&About Marivox", &GameScreenEvents::mnuHelpAbout_Click}}}},
-}};
 
 struct Label {
     const char* name;

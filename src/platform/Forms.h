@@ -31,6 +31,11 @@ class GameScreenEvents {
     virtual void mnuOptionsColumn_Click() = 0;
     virtual void mnuOptionsRepeat_Click() = 0;
     virtual void mnuOptionsFleet_Click() = 0;
+    // For players who see a little: the size of the board and its legend, and high contrast.
+    virtual void mnuOptionsZoomIn_Click() = 0;
+    virtual void mnuOptionsZoomOut_Click() = 0;
+    virtual void mnuOptionsZoomNormal_Click() = 0;
+    virtual void mnuOptionsContrast_Click() = 0;
     virtual void mnuHelpContents_Click() = 0;
     virtual void mnuHelpAbout_Click() = 0;
     // The platform's help key (F1), which opens the application's help file.
@@ -51,6 +56,11 @@ class GameWindow {
     // loaded down to the second one loaded.
     virtual void unloadOtherWindows() = 0;
     virtual GridControl& grid() = 0;
+    // How the board and its legend are shown: their size in percent of the normal one, and
+    // high contrast. The window grows with the size where the screen has room.
+    virtual void setDisplay(int zoomPercent, bool highContrast) = 0;
+    // Whether the desktop asks programs for high contrast.
+    virtual bool desktopHighContrast() const = 0;
 };
 
 // The screen-reader dialog's own handlers (its form logic lives in the system).

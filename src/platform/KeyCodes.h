@@ -30,6 +30,8 @@ inline constexpr std::int16_t Delete = 46;
 // Digits are 48..57 and letters 65..90, as their upper-case character codes; the keypad's
 // digits with Num Lock on are 96..105.
 inline constexpr std::int16_t Numpad0 = 96;
+inline constexpr std::int16_t Add = 107;       // the keypad's plus
+inline constexpr std::int16_t Subtract = 109;  // the keypad's minus
 inline constexpr std::int16_t F1 = 112;
 inline constexpr std::int16_t F2 = 113;
 inline constexpr std::int16_t F3 = 114;
@@ -37,6 +39,8 @@ inline constexpr std::int16_t F4 = 115;
 inline constexpr std::int16_t F5 = 116;
 inline constexpr std::int16_t F6 = 117;
 // F7..F12 follow in order, up to 123.
+inline constexpr std::int16_t OemPlus = 187;   // the main keyboard's plus (= on US keyboards)
+inline constexpr std::int16_t OemMinus = 189;  // the main keyboard's minus
 }  // namespace KeyCode
 
 // Shift state bits passed beside a key code.

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/Commands.h"
+
 #include "model/CellName.h"
 #include "model/GameState.h"
-#include "platform/KeyCodes.h"
 #include "screen/GameScreen.h"
 #include "speech/Speech.h"
 #include "speech/SpokenHistory.h"
@@ -23,26 +24,12 @@ void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t shift) {
             tmrTimer2_->switchOff();
         }
         typeCellName(keyCode, shift);
-        // The review keys are plain keys: with Alt or Ctrl they are the desktop's (Alt+F4
-        // closes the window) or nobody's.
-        const bool plain = (shift & (ShiftState::Control | ShiftState::Alt)) == 0;
-        if (keyCode != KeyCode::F5 || !plain) {
+        const commands::Command* command = commands::playersTurnCommand(keyCode, shift);
+        if (command != &commands::kRepeat) {
             services_.spoken.restartRepeats();
         }
-        if (keyCode == KeyCode::Return) {
-            mnuOptionsShoot_Click();
-        } else if (keyCode == KeyCode::F2) {
-            mnuOptionsStatus_Click();
-        } else if (!plain) {
-            return;
-        } else if (keyCode == KeyCode::F3) {
-            mnuOptionsRow_Click();
-        } else if (keyCode == KeyCode::F4) {
-            mnuOptionsColumn_Click();
-        } else if (keyCode == KeyCode::F5) {
-            mnuOptionsRepeat_Click();
-        } else if (keyCode == KeyCode::F6) {
-            mnuOptionsFleet_Click();
+        if (command != nullptr) {
+            (this->*command->handler)();
         }
     });
 }

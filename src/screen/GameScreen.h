@@ -25,6 +25,7 @@ class HelpCommands;
 class MessageBoxes;
 class RandomSource;
 class ScreenReaderChoice;
+class SettingsStore;
 class Sounds;
 class Speech;
 class SpokenHistory;
@@ -47,6 +48,7 @@ struct GameScreenServices {
     TimerFactory& timers;
     MessageBoxes& boxes;
     Application& application;
+    SettingsStore& settings;
 };
 
 // The game screen: beginning a game, the turn cycle paced by its four timers, the board
@@ -62,6 +64,9 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     void LoadGrid();
     void SpeakCurrentCell();
     void SpeakStatus();
+    // Shows the board at the size and contrast the player last chose, before the window is
+    // first seen; high contrast as the desktop asks when nothing is stored.
+    void LoadDisplay();
 
     // Window events.
     void Form_Load() override;
@@ -76,6 +81,10 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     void mnuOptionsColumn_Click() override;
     void mnuOptionsRepeat_Click() override;
     void mnuOptionsFleet_Click() override;
+    void mnuOptionsZoomIn_Click() override;
+    void mnuOptionsZoomOut_Click() override;
+    void mnuOptionsZoomNormal_Click() override;
+    void mnuOptionsContrast_Click() override;
     void mnuHelpContents_Click() override;
     void mnuHelpAbout_Click() override;
     void helpKey() override;
@@ -109,6 +118,8 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     void jumpTo(int row, int col);
     void runTimerHandler(Procedure procedure, OneShotTimer& timer,
                          const std::function<void()>& body);
+    // Shows, speaks and keeps a new zoom or contrast.
+    void changeDisplay(int zoom, bool highContrast, std::string_view spoken);
 
     GameScreenServices services_;
     GameState& state_;
@@ -127,6 +138,9 @@ class GameScreen : public GameScreenEvents, public GridEvents {
     HalShots halShots_;
     std::optional<int> typedRow_;
     bool quietMoves_ = false;
+    // How the player sees the board: in percent of its normal size, and high contrast.
+    int zoom_ = 100;
+    bool highContrast_ = false;
 };
 
 }  // namespace marivox

@@ -22,7 +22,7 @@ System::System(const PlatformPorts& p, std::uint64_t seed)
       help(p.application, p.shell, boxes, guard),
       about(aboutBox, p.application),
       screen({state, guard, spoken, spoken, heard, random, reader, readerChoice, help, about,
-              p.window, p.timers, boxes, p.application}) {
+              p.window, p.timers, boxes, p.application, p.settings}) {
     reader.platform = p.application.platform();
     reports.speakThrough([this](std::string_view text) { heard.Speak(text); });
     p.readers.onLateFailure(speech.lateFailures());
@@ -30,6 +30,7 @@ System::System(const PlatformPorts& p, std::uint64_t seed)
 
 void System::Main() {
     ports.window.load(screen);
+    screen.LoadDisplay();
     ports.window.show();
     readerChoice.GetScreenReader();
     screen.BeginGame();

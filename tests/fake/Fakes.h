@@ -13,6 +13,7 @@
 #include "fake/Transcript.h"
 #include "platform/Application.h"
 #include "platform/Clock.h"
+#include "platform/Commands.h"
 #include "platform/Forms.h"
 #include "platform/GridControl.h"
 #include "platform/KeyCodes.h"
@@ -209,9 +210,26 @@ struct FakeWindow : GameWindow, Recorder {
     }
     void unloadOtherWindows() override { t.record("unload other windows"); }
     GridControl& grid() override { return board; }
+    void setDisplay(int zoom, bool highContrast) override {
+        t.record("window display " + std::to_string(zoom) + "% " +
+                 (highContrast ? "high contrast" : "normal contrast"));
+    }
+    bool desktopHighContrast() const override { return desktopAsksHighContrast; }
     // A key as the player presses it: the window hears it first, then the board takes an
     // arrow; F1 also opens the help, as the platform's help key.
+    // As a desktop does: a shortcut runs its command and goes no further.
     void press(std::int16_t key, std::int16_t shift = 0) {
+        const commands::Command* shortcut = nullptr;
+        commands::forEach([&](const commands::Command& command) {
+            for (const commands::Key& k : command.keys) {
+                if (command.kind == commands::KeyKind::Shortcut && k.matches(key, shift)) {
+                    shortcut = &command;
+                }
+            }
+        });
+        if (shortcut != nullptr) {
+            return (events->*shortcut->handler)();
+        }
         events->Form_KeyDown(key, shift);
         const int down = key == KeyCode::Down ? 1 : key == KeyCode::Up ? -1 : 0;
         const int right = key == KeyCode::Right ? 1 : key == KeyCode::Left ? -1 : 0;
@@ -223,6 +241,7 @@ struct FakeWindow : GameWindow, Recorder {
     FakeTimers& timers;
     GameScreenEvents* events = nullptr;
     bool closed = false;
+    bool desktopAsksHighContrast = false;
 };
 
 // Answers as scripted, else a question by `answerer` or No, anything else with OK.

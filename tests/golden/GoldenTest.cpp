@@ -14,6 +14,7 @@
 #include "fake/Rig.h"
 #include "model/Consistency.h"
 #include "model/Ships.h"
+#include "platform/Commands.h"
 
 // The whole system over the fakes: scene scripts (the .scene files here, their commands told
 // in README.md) played and compared with the stored .transcript files, then random play.
@@ -37,25 +38,22 @@ std::int16_t codeOf(char symbol) {
                 : static_cast<std::int16_t>(symbol == '.');
 }
 
-const std::map<std::string, void (GameScreenEvents::*)()> kMenu{
-    {"mnuGameNew", &GameScreenEvents::mnuGameNew_Click},
-    {"mnuGameReader", &GameScreenEvents::mnuGameReader_Click},
-    {"mnuGameExit", &GameScreenEvents::mnuGameExit_Click},
-    {"mnuOptionsStatus", &GameScreenEvents::mnuOptionsStatus_Click},
-    {"mnuOptionsShoot", &GameScreenEvents::mnuOptionsShoot_Click},
-    {"mnuOptionsRow", &GameScreenEvents::mnuOptionsRow_Click},
-    {"mnuOptionsColumn", &GameScreenEvents::mnuOptionsColumn_Click},
-    {"mnuOptionsRepeat", &GameScreenEvents::mnuOptionsRepeat_Click},
-    {"mnuOptionsFleet", &GameScreenEvents::mnuOptionsFleet_Click},
-    {"mnuHelpContents", &GameScreenEvents::mnuHelpContents_Click},
-    {"mnuHelpAbout", &GameScreenEvents::mnuHelpAbout_Click}};
+// Every command of the game screen by its menu item's name.
+const std::map<std::string, void (GameScreenEvents::*)()> kMenu = [] {
+    std::map<std::string, void (GameScreenEvents::*)()> menu;
+    commands::forEach([&](const commands::Command& c) { menu[c.name] = c.handler; });
+    return menu;
+}();
 
 const std::map<std::string, std::int16_t> kKeys{
-    {"Enter", KeyCode::Return}, {"F1", KeyCode::F1},           {"F2", KeyCode::F2},
-    {"Up", KeyCode::Up},        {"Down", KeyCode::Down},       {"Left", KeyCode::Left},
-    {"Right", KeyCode::Right},  {"Shift", KeyCode::Shift},     {"Escape", KeyCode::Escape},
-    {"F3", KeyCode::F3},        {"F4", KeyCode::F4},           {"F5", KeyCode::F5},
-    {"F6", KeyCode::F6},        {"Pad5", KeyCode::Numpad0 + 5}};
+    {"Enter", KeyCode::Return},  {"F1", KeyCode::F1},
+    {"F2", KeyCode::F2},         {"Up", KeyCode::Up},
+    {"Down", KeyCode::Down},     {"Left", KeyCode::Left},
+    {"Right", KeyCode::Right},   {"Shift", KeyCode::Shift},
+    {"Escape", KeyCode::Escape}, {"F3", KeyCode::F3},
+    {"F4", KeyCode::F4},         {"F5", KeyCode::F5},
+    {"F6", KeyCode::F6},         {"Pad5", KeyCode::Numpad0 + 5},
+    {"Add", KeyCode::Add},       {"Subtract", KeyCode::Subtract}};
 
 // The text of a line that writes a cell's text, or "".
 std::string cellText(const std::vector<std::string>& lines, std::size_t i) {
@@ -101,6 +99,16 @@ struct Scene {
         if (verb == "seed") {
             rig = std::make_unique<Rig>(std::stoull(rest));
             shown = 0;
+        } else if (verb == "restart") {  // a new run of the program, with the same settings
+            auto kept = std::move(r.settings.stored);
+            rig = std::make_unique<Rig>();
+            rig->settings.stored = std::move(kept);
+            shown = 0;
+        } else if (verb == "desktop") {  // desktop high contrast
+            r.window.desktopAsksHighContrast = true;
+        } else if (verb == "setting") {  // setting <key> "<text>"
+            words >> word;
+            r.settings.stored[word] = rest.substr(word.size() + 2, rest.size() - word.size() - 3);
         } else if (verb == "stored") {
             r.settings.stored.clear();
             if (rest != "nothing") {
@@ -356,7 +364,7 @@ TEST(Soak, RandomPlayKeepsEveryInvariantGameAfterGame) {
         } else if (event == 994) {
             rig->window.unload();
         } else {  // the menu: mostly Options, now and then another command
-            const int item = event < 994 ? 5 + event % 6 : event - 995;
+            const int item = event < 994 ? 5 + event % 10 : event - 995;  // by name: Options 5..14
             (rig->system.screen.*std::next(kMenu.begin(), item)->second)();
         }
         const Lines lines = std::exchange(rig->t.lines, {});

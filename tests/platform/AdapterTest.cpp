@@ -86,6 +86,10 @@ struct Screen : GameScreenEvents, GridEvents {
     void mnuOptionsColumn_Click() override {}
     void mnuOptionsRepeat_Click() override {}
     void mnuOptionsFleet_Click() override {}
+    void mnuOptionsZoomIn_Click() override { hear("mnuOptionsZoomIn"); }
+    void mnuOptionsZoomOut_Click() override { hear("mnuOptionsZoomOut"); }
+    void mnuOptionsZoomNormal_Click() override { hear("mnuOptionsZoomNormal"); }
+    void mnuOptionsContrast_Click() override { hear("mnuOptionsContrast"); }
     void mnuHelpContents_Click() override {}
     void mnuHelpAbout_Click() override {}
     void helpKey() override { hear("help"); }

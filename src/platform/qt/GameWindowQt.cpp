@@ -5,10 +5,14 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScreen>
+#include <cmath>
 #include <string>
 
+#include "platform/Commands.h"
 #include "platform/KeyCodes.h"
 #include "platform/probe/LatencyLog.h"
 #include "platform/qt/Desktop.h"
@@ -35,6 +39,15 @@ GameWindowQt::GameWindowQt(QtApplication& application, probe::LatencyLog* latenc
     client->setMinimumSize(twips(layout::kGameClientWidth), twips(layout::kGameClientHeight));
     resize(twips(layout::kGameClientWidth),
            twips(layout::kGameClientHeight) + menuBar()->sizeHint().height());
+    const int boardHeight = twips(layout::kBoard.height);
+    const int headings = grid_->horizontalHeader()->sizeHint().height() + 2 * grid_->frameWidth();
+    normal_ = {twips(layout::kGameClientWidth),
+               twips(layout::kGameClientHeight),
+               boardHeight,
+               twips(layout::kLegend.front().place.top),
+               twips(layout::kLegend.back().place.top + layout::kLegend.back().place.height),
+               std::max(1, (boardHeight - headings) / 9),
+               static_cast<double>(QFontInfo(font()).pixelSize())};
     setFocusProxy(grid_);
     grid_->setFocus();
     qApp->installEventFilter(this);
@@ -45,24 +58,26 @@ GameWindowQt::~GameWindowQt() {
 }
 
 void GameWindowQt::buildMenus() {
-    for (const layout::Menu& menu : layout::kMenus) {
+    for (const commands::Menu& menu : commands::kMenus) {
         QMenu* submenu = menuBar()->addMenu(menu.caption);
         submenu->setObjectName(menu.name);
-        for (const layout::MenuItem& item : menu.items) {
-            if (item.name == nullptr) {
+        for (const commands::Command* command : menu.items) {
+            if (command == nullptr) {
                 continue;
             }
-            QAction* action = submenu->addAction(item.caption);
-            action->setObjectName(item.name);
-            // The menu tree is static, so the item outlives every connection to it.
-            connect(action, &QAction::triggered, this, [this, &item] {
+            QAction* action = submenu->addAction(command->caption);
+            action->setObjectName(command->name);
+            if (command->kind == commands::KeyKind::Shortcut) {
+                action->setShortcuts(shortcutsOf(*command));
+            }
+            // The command table is static, so the row outlives every connection to it.
+            connect(action, &QAction::triggered, this, [this, command] {
                 if (events_ != nullptr) {
-                    guarded(item.name, [this, &item] { (events_->*item.handler)(); });
+                    guarded(command->name, [this, command] { (events_->*command->handler)(); });
                 }
             });
         }
     }
-    action("mnuGameNew")->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
 }
 
 void GameWindowQt::buildLabels() {
@@ -71,6 +86,62 @@ void GameWindowQt::buildLabels() {
         label->setObjectName(wanted.name);
         label->setGeometry(twipsRect(wanted.place));
         fitTextToWidth(*label);
+        legend_.push_back(label);
+        legendPoints_.push_back(label->font().pointSizeF());
+    }
+}
+
+void GameWindowQt::setDisplay(int zoomPercent, bool highContrast) {
+    zoom_ = zoomPercent;
+    highContrast_ = highContrast;
+    centralWidget()->setAttribute(Qt::WA_StyledBackground, highContrast);
+    centralWidget()->setStyleSheet(
+        highContrast ? "QWidget#client { background: black; } QLabel { color: yellow; }" : "");
+    // The window grows and shrinks with the zoom as far as the screen has room; a maximised
+    // one stays as it is.
+    if (!isMaximized() && !isFullScreen()) {
+        const QRect room = screen() != nullptr ? screen()->availableGeometry() : QRect();
+        const int menu = menuBar()->sizeHint().height();
+        QSize wanted(layout::zoomedWidth(normal_, zoom_),
+                     layout::zoomedHeight(normal_, zoom_) + menu);
+        if (room.isValid()) {
+            wanted = wanted.boundedTo(room.size());
+        }
+        resize(wanted);
+    }
+    relayout();
+}
+
+// The board takes what the legend leaves; everything stands where it always did in the
+// normal window at 100%.
+void GameWindowQt::relayout() {
+    const QSize client = centralWidget()->size();
+    const layout::BoardPlaces places =
+        layout::boardPlaces(normal_, client.width(), client.height(), zoom_);
+    const bool normal =
+        zoom_ == 100 && places.legendScale == 1 && places.boardHeight == normal_.boardHeight;
+    grid_->setGeometry(
+        0, 0, twips(layout::kBoard.width) + std::max(0, client.width() - normal_.clientWidth),
+        places.boardHeight);
+    grid_->setLook(normal ? 0 : places.markPixels, normal ? 1 : places.headingScale, highContrast_);
+    for (std::size_t i = 0; i < legend_.size(); ++i) {
+        const QRect place = twipsRect(layout::kLegend[i].place);
+        const double s = places.legendScale;
+        legend_[i]->setGeometry(static_cast<int>(std::lround(place.x() * s)),
+                                static_cast<int>(std::lround(place.y() * s)) + places.legendShift,
+                                static_cast<int>(std::lround(place.width() * s)),
+                                static_cast<int>(std::lround(place.height() * s)));
+        QFont font = legend_[i]->font();
+        font.setPointSizeF(legendPoints_[i] * s);
+        legend_[i]->setFont(font);
+        fitTextToWidth(*legend_[i]);  // text does not grow quite as its place does
+    }
+}
+
+void GameWindowQt::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    if (normal_.clientWidth > 0) {
+        relayout();
     }
 }
 

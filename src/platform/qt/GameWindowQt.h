@@ -3,7 +3,9 @@
 #pragma once
 
 #include <QMainWindow>
+#include <vector>
 
+#include "platform/BoardLayout.h"
 #include "platform/Forms.h"
 #include "platform/qt/GridWidget.h"
 
@@ -32,6 +34,8 @@ class GameWindowQt : public QMainWindow, public GameWindow {
     void unload() override { close(); }
     void unloadOtherWindows() override;
     GridControl& grid() override { return *grid_; }
+    void setDisplay(int zoomPercent, bool highContrast) override;
+    bool desktopHighContrast() const override;
 
     GridWidget& board() { return *grid_; }
     QAction* action(const char* name) const;
@@ -39,16 +43,24 @@ class GameWindowQt : public QMainWindow, public GameWindow {
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void buildMenus();
     void buildLabels();
     bool isOwnControl(QObject* object) const;
+    // Places the board and the legend for the window's size and the zoom.
+    void relayout();
 
     QtApplication& application_;
     probe::LatencyLog* latency_;
     GameScreenEvents* events_ = nullptr;
     GridWidget* grid_;
+    std::vector<QLabel*> legend_;
+    std::vector<double> legendPoints_;  // each label's font at the normal size
+    layout::NormalMetrics normal_{};
+    int zoom_ = 100;
+    bool highContrast_ = false;
 };
 
 }  // namespace marivox::qt

@@ -3,7 +3,10 @@
 #include "platform/qt/GridWidget.h"
 
 #include <QHeaderView>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <algorithm>
+#include <cmath>
 
 #include "platform/qt/Desktop.h"
 #include "platform/qt/Twips.h"
@@ -19,6 +22,37 @@ QColor toQColor(Rgb c) {
 QString fromUtf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+
+// High contrast, drawn whatever colours the game gave the cells: marks in white on black, the
+// cursor cell's mark in yellow inside a yellow frame thick enough to find at a glance.
+class HighContrastCells : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    static constexpr int kFrame = 5;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const auto* board = qobject_cast<const GridWidget*>(option.widget);
+        if (board == nullptr || !board->highContrast()) {
+            QStyledItemDelegate::paint(painter, option, index);
+            return;
+        }
+        const bool cursor = index == board->currentIndex();
+        painter->save();
+        painter->fillRect(option.rect, Qt::black);
+        painter->setPen(cursor ? Qt::yellow : Qt::white);
+        QFont font = option.font;
+        font.setBold(true);
+        painter->setFont(font);
+        painter->drawText(option.rect, Qt::AlignCenter, index.data().toString());
+        if (cursor) {
+            const int half = kFrame / 2;
+            painter->setPen(QPen(Qt::yellow, kFrame));
+            painter->drawRect(option.rect.adjusted(half, half, -half - 1, -half - 1));
+        }
+        painter->restore();
+    }
+};
 
 [[noreturn]] void outOfRange(const char* what) {
     throw Failure(FailureNumber::IndexOutOfRange,
@@ -45,6 +79,7 @@ GridWidget::GridWidget(QWidget* parent) : QTableWidget(parent) {
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setHighlightSections(false);
 
+    setItemDelegate(new HighContrastCells(this));
     connect(this, &QTableWidget::cellClicked, this, [this](int, int) {
         if (events_ != nullptr) {
             guarded("flex", [this] { events_->onClick(); });
@@ -138,7 +173,7 @@ void GridWidget::fitLines() {
         top->setMaximumHeight(QWIDGETSIZE_MAX);
     }
     if (headingColPixels_ >= 0) {
-        left->setFixedWidth(headingColPixels_);
+        left->setFixedWidth(static_cast<int>(std::lround(headingColPixels_ * headingScale_)));
     } else {
         left->setMinimumWidth(0);
         left->setMaximumWidth(QWIDGETSIZE_MAX);
@@ -148,7 +183,8 @@ void GridWidget::fitLines() {
         parentWidget() != nullptr ? std::min(width(), parentWidget()->width() - x()) : width();
     const int headingWidth = left->isVisible() ? left->width() : 0;
     const int headingHeight = top->isVisible() ? top->height() : 0;
-    const int lineMinimum = fontMetrics().height() + 2;
+    // A floor for a tiny window; an enlarged mark fills its line instead of widening it.
+    const int lineMinimum = QFontMetrics(QFont()).height() + 2;
     if (columnCount() > 0) {
         const int each =
             std::max(lineMinimum, (visibleWidth - headingWidth - 2 * frameWidth()) / columnCount());
@@ -165,6 +201,36 @@ void GridWidget::fitLines() {
             QTableWidget::setRowHeight(r, each);
         }
     }
+}
+
+void GridWidget::setLook(double markPixels, double headingScale, bool highContrast) {
+    const auto sized = [](double pixels) {
+        QFont font;
+        if (pixels > 0) {
+            font.setPixelSize(static_cast<int>(std::lround(pixels)));
+        }
+        return font;
+    };
+    // The normal size sets no font of its own, so the board looks as it always has.
+    setFont(sized(markPixels));
+    headingScale_ = headingScale;
+    const double headingPixels =
+        headingScale == 1 ? 0 : QFontInfo(QFont()).pixelSize() * headingScale;
+    horizontalHeader()->setFont(sized(headingPixels));
+    verticalHeader()->setFont(sized(headingPixels));
+    highContrast_ = highContrast;
+    const QString headings = highContrast ? "QHeaderView::section { background: black; "
+                                            "color: yellow; border: 1px solid white; }"
+                                          : "";
+    horizontalHeader()->setStyleSheet(headings);
+    verticalHeader()->setStyleSheet(headings);
+    setStyleSheet(highContrast ? "QTableView { background: black; gridline-color: white; } "
+                                 "QTableCornerButton::section { background: black; "
+                                 "border: 1px solid white; }"
+                               : "");
+    updateGeometries();  // the headings' new height, before the lines share what is left
+    fitLines();
+    viewport()->update();
 }
 
 void GridWidget::resizeEvent(QResizeEvent* event) {

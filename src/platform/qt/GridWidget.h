@@ -49,6 +49,11 @@ class GridWidget : public QTableWidget, public GridControl {
     // Typing a letter must not jump the cursor to a cell showing that letter.
     void keyboardSearch(const QString&) override {}
 
+    // How the board looks to a player who sees a little: the marks' font in pixels (0: the
+    // normal font), the headings' size against the normal one, and high contrast.
+    void setLook(double markPixels, double headingScale, bool highContrast);
+    bool highContrast() const { return highContrast_; }
+
   protected:
     void resizeEvent(QResizeEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -77,6 +82,8 @@ class GridWidget : public QTableWidget, public GridControl {
     bool quiet_ = false;  // reshaping, not a cursor move
     Rgb back_{255, 255, 255};
     Rgb fore_{0, 0, 0};
+    double headingScale_ = 1;
+    bool highContrast_ = false;
 };
 
 }  // namespace marivox::qt

@@ -78,4 +78,33 @@ std::int16_t gameShiftState(Qt::KeyboardModifiers modifiers) {
     return state;
 }
 
+QList<QKeySequence> shortcutsOf(const commands::Command& command) {
+    QList<QKeySequence> shortcuts;
+    for (const commands::Key& key : command.keys) {
+        Qt::KeyboardModifiers held;
+        held.setFlag(Qt::ControlModifier, (key.held & ShiftState::Control) != 0);
+        held.setFlag(Qt::AltModifier, (key.held & ShiftState::Alt) != 0);
+        const auto add = [&](Qt::Key qtKey, Qt::KeyboardModifiers extra = {}) {
+            shortcuts.append(QKeySequence(QKeyCombination(held | extra, qtKey)));
+        };
+        if (key.code >= 'A' && key.code <= 'Z') {
+            add(static_cast<Qt::Key>(Qt::Key_A + (key.code - 'A')));
+        } else if (key.code >= '0' && key.code <= '9') {
+            add(static_cast<Qt::Key>(Qt::Key_0 + (key.code - '0')));
+        } else if (key.code == KeyCode::OemPlus) {
+            add(Qt::Key_Plus);
+            add(Qt::Key_Equal);
+        } else if (key.code == KeyCode::OemMinus) {
+            add(Qt::Key_Minus);
+        } else if (key.code == KeyCode::Add) {
+            add(Qt::Key_Plus, Qt::KeypadModifier);
+        } else if (key.code == KeyCode::Subtract) {
+            add(Qt::Key_Minus, Qt::KeypadModifier);
+        } else if (key.code == KeyCode::Numpad0) {
+            add(Qt::Key_0, Qt::KeypadModifier);
+        }
+    }
+    return shortcuts;
+}
+
 }  // namespace marivox::qt

@@ -5,7 +5,9 @@
 #include <windows.h>
 
 #include <memory>
+#include <vector>
 
+#include "platform/BoardLayout.h"
 #include "platform/Forms.h"
 #include "platform/windows/WinGrid.h"
 
@@ -29,6 +31,8 @@ class WinGameWindow : public GameWindow {
     void unload() override;
     void unloadOtherWindows() override;
     GridControl& grid() override { return *grid_; }
+    void setDisplay(int zoomPercent, bool highContrast) override;
+    bool desktopHighContrast() const override;
 
     // For the event loop: the key preview and the menu's shortcut; true when the message
     // has been taken.
@@ -40,12 +44,20 @@ class WinGameWindow : public GameWindow {
     void buildMenus();
     void buildLegend();
     void close();
+    // Places the board and the legend for the window's size and the zoom.
+    void relayout();
 
     WinApplication& application_;
     GameScreenEvents* events_ = nullptr;
     HWND window_ = nullptr;
     HACCEL shortcuts_ = nullptr;
     std::unique_ptr<WinGrid> grid_;
+    std::vector<HWND> legend_;
+    HFONT legendFont_ = nullptr;  // none: the normal font
+    HBRUSH black_ = CreateSolidBrush(RGB(0, 0, 0));
+    layout::NormalMetrics normal_{};
+    int zoom_ = 100;
+    bool highContrast_ = false;
 };
 
 }  // namespace marivox::windows

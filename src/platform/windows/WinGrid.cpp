@@ -3,6 +3,7 @@
 #include "platform/windows/WinGrid.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "platform/windows/WinDesktop.h"
@@ -15,14 +16,9 @@ namespace {
 
 constexpr wchar_t kClassName[] = L"MarivoxBoard";
 constexpr wchar_t kName[] = L"Board";
-
 [[noreturn]] void outOfRange(const char* what) {
     throw Failure(FailureNumber::IndexOutOfRange,
                   std::string("Board grid ") + what + " out of range");
-}
-
-COLORREF colour(Rgb c) {
-    return RGB(c.red, c.green, c.blue);
 }
 
 void registerClass(HINSTANCE instance, WNDPROC procedure) {
@@ -49,6 +45,8 @@ WinGrid::WinGrid(HWND parent, RECT place) {
 }
 
 WinGrid::~WinGrid() {
+    DeleteObject(markFont_);
+    DeleteObject(headingFont_);
     if (IsWindow(window_)) {
         SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
     }
@@ -257,62 +255,6 @@ void WinGrid::tellAssistiveTechnology() {
     SetWindowTextW(window_, name.c_str());
     if (!voiced) {
         NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window_, OBJID_CLIENT, CHILDID_SELF);
-    }
-}
-
-RECT WinGrid::cellRect(int row, int col) const {
-    RECT client;
-    GetClientRect(window_, &client);
-    const int headingHeight = fixedRows_ == 0          ? 0
-                              : headingRowPixels_ >= 0 ? headingRowPixels_
-                                                       : pixels(300);
-    const int headingWidth = fixedCols_ == 0          ? 0
-                             : headingColPixels_ >= 0 ? headingColPixels_
-                                                      : pixels(300);
-    const int rowHeight = (client.bottom - headingHeight) / std::max(1, rows_ - fixedRows_);
-    const int colWidth = (client.right - headingWidth) / std::max(1, cols_ - fixedCols_);
-    const int top = row < fixedRows_ ? 0 : headingHeight + (row - fixedRows_) * rowHeight;
-    const int left = col < fixedCols_ ? 0 : headingWidth + (col - fixedCols_) * colWidth;
-    return {left, top, left + (col < fixedCols_ ? headingWidth : colWidth),
-            top + (row < fixedRows_ ? headingHeight : rowHeight)};
-}
-
-void WinGrid::paint(HDC dc) const {
-    RECT client;
-    GetClientRect(window_, &client);
-    HBRUSH window = CreateSolidBrush(colour(back_));
-    FillRect(dc, &client, window);
-    DeleteObject(window);
-    SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
-    SetBkMode(dc, TRANSPARENT);
-    const bool focused = GetFocus() == window_;
-    for (int r = 0; r < rows_; ++r) {
-        for (int c = 0; c < cols_; ++c) {
-            RECT box = cellRect(r, c);
-            const bool heading = r < fixedRows_ || c < fixedCols_;
-            const bool cursor = r == row_ && c == col_;
-            const Cell& here = cell(r, c);
-            COLORREF back =
-                heading ? GetSysColor(COLOR_BTNFACE) : colour(here.back.value_or(back_));
-            COLORREF fore =
-                heading ? GetSysColor(COLOR_BTNTEXT) : colour(here.fore.value_or(fore_));
-            if (cursor && focused) {
-                back = GetSysColor(COLOR_HIGHLIGHT);
-                fore = GetSysColor(COLOR_HIGHLIGHTTEXT);
-            }
-            HBRUSH brush = CreateSolidBrush(back);
-            FillRect(dc, &box, brush);
-            DeleteObject(brush);
-            FrameRect(dc, &box, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
-            SetTextColor(dc, fore);
-            const std::wstring text = wideText(here.text);
-            DrawTextW(dc, text.c_str(), static_cast<int>(text.size()), &box,
-                      DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
-            if (cursor && focused) {
-                InflateRect(&box, -2, -2);
-                DrawFocusRect(dc, &box);
-            }
-        }
     }
 }
 

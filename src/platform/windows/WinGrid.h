@@ -55,6 +55,10 @@ class WinGrid : public GridControl {
     void setCellBackColor(Rgb colour) override;
     void setCellForeColor(Rgb colour) override;
 
+    // How the board looks to a player who sees a little: the marks' font in pixels (0: the
+    // normal font), the headings' size against the normal one, and high contrast.
+    void setLook(double markPixels, double headingScale, bool highContrast);
+
   private:
     struct Cell {
         std::string text;
@@ -94,6 +98,10 @@ class WinGrid : public GridControl {
     std::optional<std::pair<int, int>> pressed_;  // the cell the mouse button went down in
     Rgb back_{255, 255, 255};
     Rgb fore_{0, 0, 0};
+    double headingScale_ = 1;
+    bool highContrast_ = false;
+    HFONT markFont_ = nullptr;  // none: the normal font
+    HFONT headingFont_ = nullptr;
 };
 
 }  // namespace marivox::windows
