@@ -49,9 +49,10 @@ def wait_until(condition, timeout, interval=0.02):
 
 class Session:
     def __init__(self, stored_reader="JFW", speech=True, audio=True, program=None, orca=False,
-                 launcher=(), orca_settings=None):
+                 launcher=(), orca_settings=None, screen="1024x768x24"):
         self.stored_reader = stored_reader
         self.orca_settings = orca_settings  # Orca's general settings, written before it starts
+        self.screen = screen
         self.with_speech = speech
         self.with_audio = audio
         self.with_orca = orca
@@ -110,7 +111,7 @@ class Session:
 
     def _start_x(self):
         read_end, write_end = os.pipe()
-        self._spawn("Xvfb", ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1024x768x24",
+        self._spawn("Xvfb", ["Xvfb", "-displayfd", str(write_end), "-screen", "0", self.screen,
                              "-nolisten", "tcp", "-noreset"], pass_fds=(write_end,),
                     stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write_end)
@@ -240,7 +241,9 @@ class Session:
         env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         env["QT_ACCESSIBILITY"] = "1"
         self.started_at = time.time()
-        self.game_log = open(os.path.join(self.dir, "game.log"), "w")
+        if getattr(self, "game_log", None) is not None:
+            self.game_log.close()
+        self.game_log = open(os.path.join(self.dir, "game.log"), "a")
         self.game = self._spawn("marivox", self.launcher + [self.program], env=env,
                                 stdout=self.game_log, stderr=subprocess.STDOUT)
         return self.game

@@ -4,6 +4,7 @@
 // desktop, one line each: "window|<title>", then for its controls "text|<text>",
 // "button|<caption>" and "item|<text>|selected" or "item|<text>|"; the game's board as
 // "board|<left> <top> <right> <bottom>", on the screen.
+//   readwindows [maximize|restore]
 #include <windows.h>
 
 #include <cstdio>
@@ -63,7 +64,14 @@ BOOL CALLBACK window(HWND top, LPARAM) {
 
 }  // namespace
 
-int main() {
+// With "maximize" or "restore": does that to the game window instead, as a window manager
+// would for the player.
+int main(int argc, char** argv) {
+    if (argc > 1) {
+        HWND game = FindWindowW(L"MarivoxGameScreen", nullptr);
+        ShowWindow(game, std::string(argv[1]) == "maximize" ? SW_MAXIMIZE : SW_RESTORE);
+        return game != nullptr ? 0 : 1;
+    }
     EnumWindows(window, 0);
     return 0;
 }
