@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "PrivatePulse.h"
-#include "platform/audio/WavFile.h"
-#include "platform/pulse/PulseOutput.h"
+#include "adapters/audio/WavFile.h"
+#include "adapters/pulse/PulseOutput.h"
 
 namespace {
 

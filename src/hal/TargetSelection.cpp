@@ -6,7 +6,7 @@
 
 #include "model/GameState.h"
 #include "model/RandomNumbers.h"
-#include "platform/OneShotTimer.h"
+#include "ports/OneShotTimer.h"
 #include "support/Guard.h"
 
 namespace marivox {

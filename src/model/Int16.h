@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "support/Failure.h"
+#include "ports/Failure.h"
 
 namespace marivox {
 

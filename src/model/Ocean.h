@@ -5,7 +5,7 @@
 #include <array>
 #include <cstdint>
 
-#include "support/Failure.h"
+#include "ports/Failure.h"
 
 namespace marivox {
 

@@ -7,7 +7,7 @@
 #include "model/CellName.h"
 #include "model/GameState.h"
 #include "model/Int16.h"
-#include "platform/GridControl.h"
+#include "ports/GridControl.h"
 #include "speech/SoundFiles.h"
 #include "speech/Speech.h"
 #include "support/Guard.h"

@@ -5,7 +5,7 @@
 #include <bit>
 #include <cstring>
 
-#include "platform/Clock.h"
+#include "ports/Clock.h"
 
 namespace marivox {
 namespace {

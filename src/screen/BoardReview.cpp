@@ -10,7 +10,7 @@
 #include "model/Ocean.h"
 #include "model/PlayerShots.h"
 #include "model/Ships.h"
-#include "platform/GridControl.h"
+#include "ports/GridControl.h"
 #include "support/Flags.h"
 
 namespace marivox::review {

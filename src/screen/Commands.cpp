@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Marivox Developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/Commands.h"
+#include "ports/Commands.h"
 
 #include "model/CellName.h"
 #include "model/GameState.h"

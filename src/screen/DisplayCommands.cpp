@@ -5,10 +5,10 @@
 #include <charconv>
 #include <string>
 
-#include "platform/SettingsStore.h"
+#include "ports/Failure.h"
+#include "ports/SettingsStore.h"
 #include "screen/GameScreen.h"
 #include "speech/Speech.h"
-#include "support/Failure.h"
 #include "support/Guard.h"
 
 // How a player who sees a little sees the board: its size and high contrast. Each change is

@@ -4,8 +4,8 @@
 
 #include "model/CellName.h"
 #include "model/GameState.h"
-#include "platform/Application.h"
-#include "platform/MessageBoxes.h"
+#include "ports/Application.h"
+#include "ports/MessageBoxes.h"
 #include "screen/ScreenTexts.h"
 #include "speech/ScreenReaderChoice.h"
 #include "speech/ScreenReaderState.h"

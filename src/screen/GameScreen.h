@@ -12,9 +12,9 @@
 #include "model/Boards.h"
 #include "model/Placement.h"
 #include "model/PlayerShots.h"
-#include "platform/Forms.h"
-#include "platform/GridControl.h"
-#include "platform/OneShotTimer.h"
+#include "ports/Forms.h"
+#include "ports/GridControl.h"
+#include "ports/OneShotTimer.h"
 
 namespace marivox {
 

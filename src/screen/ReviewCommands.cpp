@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "model/GameState.h"
-#include "platform/KeyCodes.h"
+#include "ports/KeyCodes.h"
 #include "screen/BoardReview.h"
 #include "screen/GameScreen.h"
 #include "speech/SpokenHistory.h"

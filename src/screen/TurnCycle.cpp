@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/CellName.h"
 #include "model/GameState.h"
-#include "platform/Application.h"
-#include "platform/MessageBoxes.h"
+#include "ports/Application.h"
+#include "ports/MessageBoxes.h"
 #include "screen/GameScreen.h"
 #include "screen/ScreenTexts.h"
 #include "speech/SoundFiles.h"

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Forms.h"
-#include "platform/MessageBoxes.h"
+#include "ports/Forms.h"
+#include "ports/MessageBoxes.h"
 #include "speech/SpeechAfterSounds.h"
 
 namespace marivox {

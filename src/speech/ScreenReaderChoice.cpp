@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "platform/MessageBoxes.h"
-#include "platform/ScreenReaders.h"
-#include "platform/SettingsStore.h"
+#include "ports/MessageBoxes.h"
+#include "ports/ScreenReaders.h"
+#include "ports/SettingsStore.h"
 #include "speech/ScreenReaderState.h"
 #include "support/Flags.h"
 #include "support/Guard.h"

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "platform/Forms.h"
+#include "ports/Forms.h"
 
 namespace marivox {
 

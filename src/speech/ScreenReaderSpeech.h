@@ -5,7 +5,7 @@
 #include <deque>
 #include <utility>
 
-#include "platform/ScreenReaders.h"
+#include "ports/ScreenReaders.h"
 #include "speech/Speech.h"
 #include "support/Procedures.h"
 

@@ -7,8 +7,8 @@
 #include <memory>
 #include <string>
 
-#include "platform/Readers.h"
-#include "platform/ScreenReaders.h"
+#include "ports/Readers.h"
+#include "ports/ScreenReaders.h"
 
 namespace marivox {
 

@@ -6,9 +6,9 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/Application.h"
-#include "platform/OneShotTimer.h"
-#include "platform/WavPlayer.h"
+#include "ports/Application.h"
+#include "ports/OneShotTimer.h"
+#include "ports/WavPlayer.h"
 #include "support/ErrorReports.h"
 
 namespace marivox {

@@ -5,10 +5,10 @@
 #include <chrono>
 #include <string>
 
-#include "platform/Application.h"
-#include "platform/NativePath.h"
-#include "platform/Sleeper.h"
-#include "platform/WavPlayer.h"
+#include "ports/Application.h"
+#include "ports/NativePath.h"
+#include "ports/Sleeper.h"
+#include "ports/WavPlayer.h"
 #include "support/Guard.h"
 
 namespace marivox {

@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "platform/Application.h"
-#include "platform/MessageBoxes.h"
+#include "ports/Application.h"
+#include "ports/MessageBoxes.h"
 #include "support/Titles.h"
 
 namespace marivox {

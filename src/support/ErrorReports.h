@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "support/Failure.h"
+#include "ports/Failure.h"
 #include "support/Procedures.h"
 
 namespace marivox {

@@ -6,8 +6,8 @@
 #include <functional>
 #include <utility>
 
+#include "ports/Failure.h"
 #include "support/ErrorReports.h"
-#include "support/Failure.h"
 #include "support/FaultInjector.h"
 #include "support/Procedures.h"
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/HelpCommands.h"
 
-#include "platform/Application.h"
-#include "platform/MessageBoxes.h"
-#include "platform/Shell.h"
+#include "ports/Application.h"
+#include "ports/MessageBoxes.h"
+#include "ports/Shell.h"
 #include "support/Guard.h"
 #include "support/Titles.h"
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/Forms.h"
+#include "ports/Forms.h"
 
 namespace marivox {
 

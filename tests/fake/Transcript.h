@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "support/Failure.h"
+#include "ports/Failure.h"
 
 namespace marivox::fake {
 

@@ -9,8 +9,8 @@
 #include <cstdlib>
 #include <span>
 
-#include "platform/audio/WavFile.h"
-#include "support/Failure.h"
+#include "adapters/audio/WavFile.h"
+#include "ports/Failure.h"
 
 static void require(bool condition, const char* what) {
     if (!condition) {

@@ -14,7 +14,7 @@
 #include "fake/Rig.h"
 #include "model/Consistency.h"
 #include "model/Ships.h"
-#include "platform/Commands.h"
+#include "ports/Commands.h"
 
 // The whole system over the fakes: scene scripts (the .scene files here, their commands told
 // in README.md) played and compared with the stored .transcript files, then random play.

@@ -7,7 +7,7 @@
 #include <QImage>
 #include <cstdio>
 
-#include "platform/qt/ProgramIcon.h"
+#include "adapters/qt/ProgramIcon.h"
 
 int main(int argc, char** argv) {
     if (argc != 2) {

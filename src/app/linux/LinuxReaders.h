@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/Readers.h"
-#include "platform/qt/AnnouncementVoice.h"
-#include "platform/speechd/SpeechdReaders.h"
+#include "adapters/qt/AnnouncementVoice.h"
+#include "adapters/speechd/SpeechdReaders.h"
+#include "ports/Readers.h"
 
 namespace marivox {
 

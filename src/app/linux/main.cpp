@@ -3,20 +3,20 @@
 // Marivox: builds the desktop, the speech service and the sound device, and starts the game.
 #include <chrono>
 
+#include "adapters/probe/LatencyLog.h"
+#include "adapters/pulse/PulseOutput.h"
+#include "adapters/qt/Desktop.h"
+#include "adapters/qt/Dialogs.h"
+#include "adapters/qt/GameWindowQt.h"
+#include "adapters/qt/OrcaSettings.h"
+#include "adapters/qt/QtApplication.h"
+#include "adapters/qt/QtMessageBoxes.h"
+#include "adapters/qt/QtSettingsStore.h"
+#include "adapters/qt/QtTimers.h"
+#include "adapters/qt/help/QtShell.h"
+#include "adapters/speechd/SpeechdReaders.h"
+#include "adapters/system/SystemClock.h"
 #include "app/linux/LinuxReaders.h"
-#include "platform/probe/LatencyLog.h"
-#include "platform/pulse/PulseOutput.h"
-#include "platform/qt/Desktop.h"
-#include "platform/qt/Dialogs.h"
-#include "platform/qt/GameWindowQt.h"
-#include "platform/qt/OrcaSettings.h"
-#include "platform/qt/QtApplication.h"
-#include "platform/qt/QtMessageBoxes.h"
-#include "platform/qt/QtSettingsStore.h"
-#include "platform/qt/QtTimers.h"
-#include "platform/qt/help/QtShell.h"
-#include "platform/speechd/SpeechdReaders.h"
-#include "platform/system/SystemClock.h"
 #include "screen/System.h"
 
 int main(int argc, char** argv) {

@@ -9,18 +9,18 @@
 
 #include <chrono>
 
-#include "platform/audio/StreamWavPlayer.h"
-#include "platform/system/SystemClock.h"
-#include "platform/windows/WinApplication.h"
-#include "platform/windows/WinDesktop.h"
-#include "platform/windows/WinDialogs.h"
-#include "platform/windows/WinGameWindow.h"
-#include "platform/windows/WinMessageBoxes.h"
-#include "platform/windows/WinSettingsStore.h"
-#include "platform/windows/WinTimers.h"
-#include "platform/windows/WinWaveOut.h"
-#include "platform/windows/WindowsReaders.h"
-#include "platform/windows/WindowsShell.h"
+#include "adapters/audio/StreamWavPlayer.h"
+#include "adapters/system/SystemClock.h"
+#include "adapters/windows/WinApplication.h"
+#include "adapters/windows/WinDesktop.h"
+#include "adapters/windows/WinDialogs.h"
+#include "adapters/windows/WinGameWindow.h"
+#include "adapters/windows/WinMessageBoxes.h"
+#include "adapters/windows/WinSettingsStore.h"
+#include "adapters/windows/WinTimers.h"
+#include "adapters/windows/WinWaveOut.h"
+#include "adapters/windows/WindowsReaders.h"
+#include "adapters/windows/WindowsShell.h"
 #include "screen/System.h"
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {

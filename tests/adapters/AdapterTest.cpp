@@ -1,0 +1,338 @@
+// SPDX-FileCopyrightText: 2026 Marivox Developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QTimer>
+#include <algorithm>
+#include <filesystem>
+#include <mutex>
+#include <regex>
+#include <thread>
+
+#include "adapters/audio/StreamWavPlayer.h"
+#include "adapters/audio/WavFile.h"
+#include "adapters/qt/Desktop.h"
+#include "adapters/qt/Dialogs.h"
+#include "adapters/qt/GameWindowQt.h"
+#include "adapters/qt/GridWidget.h"
+#include "adapters/qt/KeyMapping.h"
+#include "adapters/qt/QtApplication.h"
+#include "adapters/qt/QtMessageBoxes.h"
+#include "adapters/qt/QtTimers.h"
+#include "fake/Fakes.h"
+#include "speech/SoundFiles.h"
+
+// Contracts: the same checks on each fake and on the adapter it stands for, so the fakes the
+// game's tests run on cannot drift from the real thing (the settings store, a map in its
+// fake, is read and written for real by the e2e scenarios). Then the sound adapters and the
+// game window on their own.
+namespace marivox {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+// `hold` lets time pass with the event loop held, as a blocking call does; `deliver` lets
+// the loop run what has fallen due. A timer switched on while it counts keeps its time, and
+// ticks once for each switching on, never after being switched off.
+void checkTimers(TimerFactory& timers, const std::function<void(std::chrono::milliseconds)>& hold,
+                 const std::function<void()>& deliver) {
+    int ticks = 0;
+    const auto timer = timers.createTimer("tmrTimer1", 300ms, [&] { ++ticks; });
+    std::string seen;
+    for (const std::string step : {"on", "=", "150", "on", "250", "=", "700", "=", "off", "on",
+                                   "400", "=", "off", "on", "off", "400", "="}) {
+        step == "on" ? timer->switchOn() : step == "off" ? timer->switchOff() : void();
+        std::isdigit(step[0]) ? hold(std::chrono::milliseconds(std::stoi(step))) : void();
+        seen += step == "=" ? (deliver(), std::to_string(ticks)) : "";
+    }
+    EXPECT_EQ(seen, "01122");
+    EXPECT_FALSE(timer->isOn());
+}
+
+TEST(TimerContract, Fake) {
+    fake::Transcript t;
+    fake::FakeTimers timers(t);
+    checkTimers(
+        timers, [&](auto ms) { timers.advance(ms.count(), false); }, [&] { timers.advance(0); });
+}
+
+TEST(TimerContract, Qt) {
+    qt::QtTimerFactory timers;
+    checkTimers(
+        timers, [](auto ms) { std::this_thread::sleep_for(ms); }, [] { QTest::qWait(20); });
+}
+
+using Heard = std::vector<std::string>;
+
+// Hears the window's events; `failing`, each one fails as no procedure of the game would.
+struct Screen : GameScreenEvents, GridEvents {
+    void hear(const std::string& what) {
+        heard.push_back(what);
+        failing ? throw std::logic_error(what) : void();
+    }
+    void Form_Load() override {}
+    void Form_Unload(std::int16_t&) override {}
+    void Form_KeyDown(std::int16_t key, std::int16_t shift) override {
+        hear("key " + std::to_string(key) + " " + std::to_string(shift));
+    }
+    void mnuGameNew_Click() override { hear("mnuGameNew"); }
+    void mnuGameReader_Click() override {}
+    void mnuGameExit_Click() override {}
+    void mnuOptionsStatus_Click() override {}
+    void mnuOptionsShoot_Click() override {}
+    void mnuOptionsRow_Click() override {}
+    void mnuOptionsColumn_Click() override {}
+    void mnuOptionsRepeat_Click() override {}
+    void mnuOptionsFleet_Click() override {}
+    void mnuOptionsZoomIn_Click() override { hear("mnuOptionsZoomIn"); }
+    void mnuOptionsZoomOut_Click() override { hear("mnuOptionsZoomOut"); }
+    void mnuOptionsZoomNormal_Click() override { hear("mnuOptionsZoomNormal"); }
+    void mnuOptionsContrast_Click() override { hear("mnuOptionsContrast"); }
+    void mnuHelpContents_Click() override {}
+    void mnuHelpAbout_Click() override {}
+    void helpKey() override { hear("help"); }
+    void onRowColChange() override { hear("move"); }
+    void onClick() override { hear("click"); }
+    Heard heard;
+    bool failing = false;
+};
+
+// `click` is the player's click on a playing cell; `name` what assistive technology hears.
+void checkGrid(GridControl& grid, const std::function<void(int, int)>& click,
+               const std::function<std::string(int, int)>& name) {
+    Screen listener;
+    grid.setRows(10);
+    grid.setCols(10);
+    grid.setListener(&listener);
+    grid.setCellDescriber([](int row, int col, std::string_view mark) {
+        return std::to_string(row * 10 + col) + "=" + std::string(mark);
+    });
+    grid.setTextMatrix(0, 9, "9");
+    grid.setTextMatrix(9, 0, "I");
+    grid.setTextMatrix(3, 4, "M");
+    EXPECT_EQ(grid.textMatrix(0, 9) + grid.textMatrix(9, 0) + grid.textMatrix(3, 4) +
+                  grid.textMatrix(5, 5) + name(3, 4),
+              "9IM34=M");
+    grid.setRow(5);
+    grid.setRow(5);
+    grid.setCol(2);
+    EXPECT_EQ(grid.row() * 10 + grid.col(), 52);
+    click(7, 8);
+    EXPECT_EQ(grid.row() * 10 + grid.col(), 78);
+    for (const int outside : {0, 10}) {  // a heading, and past the board
+        EXPECT_THROW(grid.setRow(outside), Failure);
+        EXPECT_THROW(grid.setCol(outside), Failure);
+    }
+    EXPECT_THROW(grid.textMatrix(10, 1), Failure);
+    EXPECT_THROW(grid.setTextMatrix(1, 10, "M"), Failure);
+    EXPECT_EQ(listener.heard, (Heard{"move", "move", "move", "click"}));
+}
+
+TEST(GridContract, Fake) {
+    fake::Transcript t;
+    fake::FakeGrid grid(t);
+    checkGrid(
+        grid, [&](int row, int col) { grid.playerClicks(row, col); },
+        [&](int row, int col) { return grid.describer(row, col, grid.textMatrix(row, col)); });
+}
+
+TEST(GridContract, Qt) {
+    qt::GridWidget grid;
+    grid.resize(600, 400);
+    grid.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&grid));
+    const auto cell = [&](int row, int col) { return grid.item(row - 1, col - 1); };
+    checkGrid(
+        grid,
+        [&](int row, int col) {
+            QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
+                              grid.visualItemRect(cell(row, col)).center());
+        },
+        [&](int row, int col) {
+            return cell(row, col)->data(Qt::AccessibleTextRole).toString().toStdString();
+        });
+}
+
+std::string soundFile(std::string_view sound) {
+    return (fs::path(MARIVOX_PROGRAM_DIR) / sound::fileName(sound)).string();
+}
+
+using Samples = std::vector<std::int16_t>;
+using Played = std::pair<std::mutex, std::vector<Samples>>;  // each connection's samples
+
+// A sound device in memory; what it heard is shared, as the player's worker may outlive
+// the test.
+struct Device : audio::AudioStream {
+    explicit Device(std::shared_ptr<Played> h) : heard(std::move(h)) {}
+    bool write(std::span<const std::int16_t> samples) override {
+        std::lock_guard lock(heard->first);
+        heard->second.back().insert(heard->second.back().end(), samples.begin(), samples.end());
+        return true;
+    }
+    bool endOfSounds() override { return true; }
+    bool drain() override { return true; }
+    std::shared_ptr<Played> heard;
+};
+
+// Sounds asked for one after another are heard whole, in order and back to back, however
+// their lengths fall against the player's chunks; words waiting behind them are told only
+// once the last has reached the device.
+TEST(Player, PlaysEachSoundWholeInOrderWithoutAGap) {
+    auto heard = std::make_shared<Played>();
+    audio::StreamWavPlayer player([heard] {
+        std::lock_guard lock(heard->first);
+        heard->second.emplace_back();
+        return std::make_unique<Device>(heard);
+    });
+    Samples expected;
+    for (const std::string_view sound : {sound::Shoot, sound::Hit, sound::Shoot, sound::Sink}) {
+        player.open(soundFile(sound));
+        player.play(0, -1, true);
+        EXPECT_EQ(player.status(), 0);
+        player.closeSound();
+        const Samples samples = audio::toMono(audio::readWavFile(soundFile(sound)));
+        expected.insert(expected.end(), samples.begin(), samples.end());
+    }
+    const auto beforeLast =
+        expected.size() - audio::toMono(audio::readWavFile(soundFile(sound::Sink))).size();
+    std::size_t heardWhenTold = 0;
+    player.whenAcceptedSoundsHeard([&] {
+        std::lock_guard lock(heard->first);
+        heardWhenTold = heard->second.back().size();
+    });
+    player.drainBeforeExit(std::chrono::seconds(5));
+    std::lock_guard lock(heard->first);
+    EXPECT_GT(heardWhenTold, beforeLast);
+    EXPECT_TRUE(heard->second == std::vector<Samples>{expected})
+        << heard->second.size() << " connections, " << expected.size() << " samples expected";
+}
+
+// The corpus the WAV fuzzer starts from: each file reads as the layout its name begins with,
+// or, named bad-, is refused as a damaged sound naming the file; our own sounds all read as
+// what the output takes.
+TEST(WavFiles, ReadAsTheirNamesSayAndDamagedOnesAreRefused) {
+    const fs::path corpus = fs::path(MARIVOX_SOURCE_DIR) / "tests/fuzz/corpus/wav_fuzzer";
+    std::vector<fs::path> files(fs::directory_iterator(corpus), {});
+    for (const std::string_view sound : sound::kAll) {
+        files.emplace_back(soundFile(sound));
+    }
+    for (const fs::path& file : files) {
+        const std::string name = file.filename().string();
+        std::string read = "bad";
+        try {
+            const audio::WavData wav = audio::readWavFile(file.string());
+            read = (wav.channels == 1 ? "mono" : "stereo") + std::to_string(wav.bitsPerSample) +
+                   "-" + std::to_string(wav.sampleRate);
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.number(), static_cast<int>(FailureNumber::SoundFile)) << name;
+            EXPECT_NE(failure.description().find(name), std::string::npos) << name;
+        }
+        const std::string named = file.parent_path() == corpus ? name : "mono16-44100.wav";
+        EXPECT_TRUE(std::regex_match(named, std::regex(read + "[-.].*"))) << name << ": " << read;
+    }
+    EXPECT_GT(files.size(), 30u);
+}
+
+// Keys the game names nothing are one code that means nothing, whatever their native code:
+// X's keysyms for Print and Menu, cut to a byte, were the keypad's 1 and 7. Keypad digits
+// with Num Lock on are digits.
+TEST(Keys, AKeyWithoutACodeOfItsOwnIsNoOtherKey) {
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, quint32, std::int16_t> keys[] = {
+        {Qt::Key_Print, {}, 0xff61, KeyCode::Other},
+        {Qt::Key_Menu, {}, 0xff67, KeyCode::Other},
+        {Qt::Key_7, Qt::KeypadModifier, 0xffb7, '7'},
+    };
+    for (const auto& [key, modifiers, keysym, expected] : keys) {
+        const QKeyEvent event(QEvent::KeyPress, key, modifiers, 0, keysym, 0);
+        EXPECT_EQ(qt::gameKeyCode(event), expected) << keysym;
+    }
+}
+
+// The window hears each key first, as the game's key handler; then the board takes it.
+// Keypad Enter fires like Enter, F1 also asks for the help, Ctrl+N is New Game, and no
+// letter makes the cursor jump to a cell showing it. A failure escaping the game from any way
+// the toolkit calls it is told where it surfaced, and the event loop goes on.
+TEST(Desktop, KeysReachTheKeyHandlerFirstThenTheBoardAndFailuresAreTold) {
+    qt::QtApplication application;
+    qt::GameWindowQt window{application};
+    Screen screen;
+    window.load(screen);
+    window.board().setListener(&screen);
+    window.grid().setRows(10);
+    window.grid().setCols(10);
+    window.grid().setTextMatrix(5, 5, "M");
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, Heard> keys[] = {
+        {Qt::Key_Return, {}, {"key 13 0"}},
+        {Qt::Key_Enter, Qt::KeypadModifier, {"key 13 0"}},
+        {Qt::Key_F2, Qt::ShiftModifier, {"key 16 1", "key 113 1"}},
+        {Qt::Key_Down, {}, {"key 40 0", "move"}},
+        {Qt::Key_M, {}, {"key 77 0"}},
+        {Qt::Key_F1, {}, {"key 112 0", "help"}},
+        {Qt::Key_N, Qt::ControlModifier, {"key 17 2", "mnuGameNew"}},
+    };
+    for (const auto& [key, modifiers, expected] : keys) {
+        screen.heard.clear();
+        QTest::keyClick(&window.board(), key, modifiers);
+        EXPECT_EQ(screen.heard, expected) << QKeySequence(key).toString().toStdString();
+    }
+    EXPECT_EQ(window.grid().row() * 10 + window.grid().col(), 21);
+
+    auto* desktop = dynamic_cast<qt::Desktop*>(QCoreApplication::instance());
+    Heard told;
+    desktop->setEscapedFailureHandler([&](std::string_view where, const std::exception& e) {
+        told.push_back(std::string(e.what()) + " in " + std::string(where));
+    });
+    screen.failing = true;
+    QTest::keyClick(&window.board(), Qt::Key_Down);  // the key handler, then the cursor's move
+    QTest::keyClick(&window.board(), Qt::Key_N, Qt::ControlModifier);  // and a menu command
+    // A box holds its caller in a loop of its own; a timer failing there leaves it open.
+    qt::QtTimerFactory timers;
+    const auto timer = timers.createTimer("tmrTimer1", std::chrono::milliseconds(1),
+                                          [] { throw std::logic_error("timer"); });
+    timer->switchOn();
+    QTimer::singleShot(100, [] { QApplication::activeModalWidget()->close(); });
+    qt::QtMessageBoxes().show("Question", 36, "Marivox");
+    struct : ReaderDialogEvents {
+        void Form_Load() override {}
+        void btnOK_Click() override { throw std::logic_error("dialog"); }
+        void Form_Unload(std::int16_t&) override {}
+    } reader;
+    qt::ReaderDialogQt dialog;
+    QTimer::singleShot(0, [&] {
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        dialog.current()->done(0);
+    });
+    dialog.showModal(reader);
+    // The sound output's worker thread tells the user-interface thread.
+    audio::StreamWavPlayer player(
+        []() -> std::unique_ptr<audio::AudioStream> { throw std::logic_error("sound output"); }, {},
+        [](const std::exception& e) { qt::Desktop::escapedOnAnyThread("PlaySound", e); });
+    // Words held behind a sound come back as a call posted to the user-interface thread.
+    qt::Desktop::post(std::chrono::milliseconds(1), [] { throw std::logic_error("words"); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told.size() == 8; }, 5000));
+    desktop->setEscapedFailureHandler({});
+    // The last two come from other threads' timing, in either order.
+    std::sort(told.end() - 2, told.end());
+    EXPECT_EQ(told, (Heard{"key 40 0 in flex", "move in flex", "key 17 2 in flex",
+                           "mnuGameNew in mnuGameNew", "timer in tmrTimer1", "dialog in frmReader",
+                           "sound output in PlaySound", "words in posted call"}));
+}
+
+}  // namespace
+}  // namespace marivox
+
+// The adapter tests run inside the game's own application object, on Qt's offscreen
+// platform unless the environment names another.
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    marivox::qt::Desktop application(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
