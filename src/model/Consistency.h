@@ -14,8 +14,4 @@ struct GameState;
 // or the empty text when there is none.
 std::string consistencyProblem(const GameState& state);
 
-inline bool isConsistent(const GameState& state) {
-    return consistencyProblem(state).empty();
-}
-
 }  // namespace marivox

@@ -47,6 +47,7 @@ struct FakeTimers : TimerFactory, Recorder {
         ~Timer() override { std::erase(owner.timers, this); }
         void switchOn() override {
             owner.t.record("timer " + name + " on");
+            ++switchedOn;
             if (!on) {  // a timer already counting keeps its time
                 on = true;
                 due = std::pair(owner.now + interval, ++owner.switches);
@@ -62,6 +63,7 @@ struct FakeTimers : TimerFactory, Recorder {
         std::int64_t interval;
         std::function<void()> onTick;
         bool on = false;
+        int switchedOn = 0;                         // how often the game has switched it on
         std::pair<std::int64_t, std::int64_t> due;  // when, and the order of switching on
     };
 
@@ -147,6 +149,7 @@ struct FakeGrid : GridControl, Recorder {
         check(row, col, 0);
         t.record("grid " + str(row) + "," + str(col) + " " + quoted(text));
         cells[{row, col}] = text;
+        ++writes;
     }
     Rgb backColor() const override { return back_; }
     void setBackColor(Rgb c) override { back_ = c; }
@@ -176,6 +179,7 @@ struct FakeGrid : GridControl, Recorder {
     CellDescriber describer;
     MovesVoiced movesVoiced;
     std::map<std::pair<int, int>, std::string> cells;
+    int writes = 0;  // cell texts set
 
   private:
     static std::string str(int n) { return std::to_string(n); }
@@ -249,6 +253,7 @@ struct FakeBoxes : MessageBoxes, Recorder {
     using Recorder::Recorder;
     int show(std::string_view text, int style, std::string_view title) override {
         t.record("box " + std::to_string(style) + " " + quoted(title) + " " + quoted(text));
+        shown.push_back({style, std::string(title)});
         const bool question = (style & 0xF) == MsgBoxStyle::YesNo;
         int answer = !question ? MsgBoxAnswer::Ok : answerer ? answerer(text) : MsgBoxAnswer::No;
         if (!answers.empty()) {
@@ -258,6 +263,11 @@ struct FakeBoxes : MessageBoxes, Recorder {
         t.record("answer " + std::to_string(answer));
         return answer;
     }
+    struct Shown {
+        int style;
+        std::string title;
+    };
+    std::vector<Shown> shown;
     std::deque<int> answers;
     std::function<int(std::string_view text)> answerer;
 };

@@ -2,14 +2,15 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Takes the pictures in docs/: the game screen in the middle of a game, the screen-reader
 dialog and the About box, each from the real program in a private session.
-    /usr/bin/python3 tests/e2e/screenshots.py [output folder]
+    /usr/bin/python3 tools/screenshots/screenshots.py [output folder]
 """
 
 import os
 import sys
 import time
 
-sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+# The private session the end-to-end tests play in serves for pictures too.
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "../../tests/e2e"))
 import harness  # noqa: E402
 
 PROMPT_END = " it is your turn, and you are located at A 1 "
