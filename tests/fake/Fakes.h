@@ -220,7 +220,8 @@ struct FakeWindow : GameWindow, Recorder {
     }
     bool desktopHighContrast() const override { return desktopAsksHighContrast; }
     // A key as the player presses it: the window hears it first, then the board takes an
-    // arrow; F1 also opens the help, as the platform's help key.
+    // arrow, or Home, End, Page Up and Page Down to its edges as both desktops' boards do; F1
+    // also opens the help, as the platform's help key.
     // As a desktop does: a shortcut runs its command and goes no further.
     void press(std::int16_t key, std::int16_t shift = 0) {
         const commands::Command* shortcut = nullptr;
@@ -237,8 +238,10 @@ struct FakeWindow : GameWindow, Recorder {
         events->Form_KeyDown(key, shift);
         const int down = key == KeyCode::Down ? 1 : key == KeyCode::Up ? -1 : 0;
         const int right = key == KeyCode::Right ? 1 : key == KeyCode::Left ? -1 : 0;
-        board.playerMovesTo(std::clamp(board.row() + down, 1, 9),
-                            std::clamp(board.col() + right, 1, 9));  // no event if it stays
+        const int row = key == KeyCode::PageUp ? 1 : key == KeyCode::PageDown ? 9 : board.row();
+        const int col = key == KeyCode::Home ? 1 : key == KeyCode::End ? 9 : board.col();
+        board.playerMovesTo(std::clamp(row + down, 1, 9),
+                            std::clamp(col + right, 1, 9));  // no event if it stays
         key == KeyCode::F1 ? events->helpKey() : void();
     }
     FakeGrid board;
