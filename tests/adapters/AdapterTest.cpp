@@ -10,6 +10,7 @@
 #include <regex>
 #include <thread>
 
+#include "adapters/Contracts.h"
 #include "adapters/audio/StreamWavPlayer.h"
 #include "adapters/audio/WavFile.h"
 #include "adapters/qt/Desktop.h"
@@ -33,24 +34,6 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-// `hold` lets time pass with the event loop held, as a blocking call does; `deliver` lets
-// the loop run what has fallen due. A timer switched on while it counts keeps its time, and
-// ticks once for each switching on, never after being switched off.
-void checkTimers(TimerFactory& timers, const std::function<void(std::chrono::milliseconds)>& hold,
-                 const std::function<void()>& deliver) {
-    int ticks = 0;
-    const auto timer = timers.createTimer("tmrTimer1", 300ms, [&] { ++ticks; });
-    std::string seen;
-    for (const std::string step : {"on", "=", "150", "on", "250", "=", "700", "=", "off", "on",
-                                   "400", "=", "off", "on", "off", "400", "="}) {
-        step == "on" ? timer->switchOn() : step == "off" ? timer->switchOff() : void();
-        std::isdigit(step[0]) ? hold(std::chrono::milliseconds(std::stoi(step))) : void();
-        seen += step == "=" ? (deliver(), std::to_string(ticks)) : "";
-    }
-    EXPECT_EQ(seen, "01122");
-    EXPECT_FALSE(timer->isOn());
-}
-
 TEST(TimerContract, Fake) {
     fake::Transcript t;
     fake::FakeTimers timers(t);
@@ -64,78 +47,12 @@ TEST(TimerContract, Qt) {
         timers, [](auto ms) { std::this_thread::sleep_for(ms); }, [] { QTest::qWait(20); });
 }
 
-using Heard = std::vector<std::string>;
-
-// Hears the window's events; `failing`, each one fails as no procedure of the game would.
-struct Screen : GameScreenEvents, GridEvents {
-    void hear(const std::string& what) {
-        heard.push_back(what);
-        failing ? throw std::logic_error(what) : void();
-    }
-    void Form_Load() override {}
-    void Form_Unload(std::int16_t&) override {}
-    void Form_KeyDown(std::int16_t key, std::int16_t shift) override {
-        hear("key " + std::to_string(key) + " " + std::to_string(shift));
-    }
-    void mnuGameNew_Click() override { hear("mnuGameNew"); }
-    void mnuGameReader_Click() override {}
-    void mnuGameExit_Click() override {}
-    void mnuOptionsStatus_Click() override {}
-    void mnuOptionsShoot_Click() override {}
-    void mnuOptionsRow_Click() override {}
-    void mnuOptionsColumn_Click() override {}
-    void mnuOptionsRepeat_Click() override {}
-    void mnuOptionsFleet_Click() override {}
-    void mnuOptionsZoomIn_Click() override { hear("mnuOptionsZoomIn"); }
-    void mnuOptionsZoomOut_Click() override { hear("mnuOptionsZoomOut"); }
-    void mnuOptionsZoomNormal_Click() override { hear("mnuOptionsZoomNormal"); }
-    void mnuOptionsContrast_Click() override { hear("mnuOptionsContrast"); }
-    void mnuHelpContents_Click() override {}
-    void mnuHelpAbout_Click() override {}
-    void helpKey() override { hear("help"); }
-    void onRowColChange() override { hear("move"); }
-    void onClick() override { hear("click"); }
-    Heard heard;
-    bool failing = false;
-};
-
-// `click` is the player's click on a playing cell; `name` what assistive technology hears.
-void checkGrid(GridControl& grid, const std::function<void(int, int)>& click,
-               const std::function<std::string(int, int)>& name) {
-    Screen listener;
-    grid.setRows(10);
-    grid.setCols(10);
-    grid.setListener(&listener);
-    grid.setCellDescriber([](int row, int col, std::string_view mark) {
-        return std::to_string(row * 10 + col) + "=" + std::string(mark);
-    });
-    grid.setTextMatrix(0, 9, "9");
-    grid.setTextMatrix(9, 0, "I");
-    grid.setTextMatrix(3, 4, "M");
-    EXPECT_EQ(grid.textMatrix(0, 9) + grid.textMatrix(9, 0) + grid.textMatrix(3, 4) +
-                  grid.textMatrix(5, 5) + name(3, 4),
-              "9IM34=M");
-    grid.setRow(5);
-    grid.setRow(5);
-    grid.setCol(2);
-    EXPECT_EQ(grid.row() * 10 + grid.col(), 52);
-    click(7, 8);
-    EXPECT_EQ(grid.row() * 10 + grid.col(), 78);
-    for (const int outside : {0, 10}) {  // a heading, and past the board
-        EXPECT_THROW(grid.setRow(outside), Failure);
-        EXPECT_THROW(grid.setCol(outside), Failure);
-    }
-    EXPECT_THROW(grid.textMatrix(10, 1), Failure);
-    EXPECT_THROW(grid.setTextMatrix(1, 10, "M"), Failure);
-    EXPECT_EQ(listener.heard, (Heard{"move", "move", "move", "click"}));
-}
-
 TEST(GridContract, Fake) {
     fake::Transcript t;
     fake::FakeGrid grid(t);
     checkGrid(
         grid, [&](int row, int col) { grid.playerClicks(row, col); },
-        [&](int row, int col) { return grid.describer(row, col, grid.textMatrix(row, col)); });
+        [&] { return grid.describer(grid.row(), grid.col(), grid.text()); });
 }
 
 TEST(GridContract, Qt) {
@@ -143,16 +60,13 @@ TEST(GridContract, Qt) {
     grid.resize(600, 400);
     grid.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&grid));
-    const auto cell = [&](int row, int col) { return grid.item(row - 1, col - 1); };
     checkGrid(
         grid,
         [&](int row, int col) {
             QTest::mouseClick(grid.viewport(), Qt::LeftButton, {},
-                              grid.visualItemRect(cell(row, col)).center());
+                              grid.visualItemRect(grid.item(row - 1, col - 1)).center());
         },
-        [&](int row, int col) {
-            return cell(row, col)->data(Qt::AccessibleTextRole).toString().toStdString();
-        });
+        [&] { return grid.currentItem()->data(Qt::AccessibleTextRole).toString().toStdString(); });
 }
 
 std::string soundFile(std::string_view sound) {

@@ -58,6 +58,8 @@ class WinGrid : public GridControl {
     // How the board looks to a player who sees a little: the marks' font in pixels (0: the
     // normal font), the headings' size against the normal one, and high contrast.
     void setLook(double markPixels, double headingScale, bool highContrast);
+    // Where a cell stands in the board's client area.
+    RECT cellRect(int row, int col) const;
 
   private:
     struct Cell {
@@ -75,7 +77,6 @@ class WinGrid : public GridControl {
     void placeCursor(int row, int col);
     void moveCursor(int row, int col);
     void tellAssistiveTechnology();
-    RECT cellRect(int row, int col) const;
     void paint(HDC dc) const;
     void keyDown(WPARAM key);
     std::optional<std::pair<int, int>> cellAt(int x, int y) const;
