@@ -19,8 +19,3 @@ def next_target(fired, hits):
     return next((r, c) for r in range(1, 10) for c in range(1, 10)
                 if (r + c) % 2 == 0 and (r, c) not in fired)
 
-
-def moves(at, target):
-    """The arrow keys that take the board's cursor from one cell to another."""
-    return (["Down"] * (target[0] - at[0]) + ["Right"] * (target[1] - at[1])
-            + ["Up"] * (at[0] - target[0]) + ["Left"] * (at[1] - target[1]))

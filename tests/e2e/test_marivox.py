@@ -15,7 +15,6 @@ import unittest
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 import harness  # noqa: E402
-import hunt  # noqa: E402
 
 PROMPT = [" press f 1 for help  ", " press f 2 for status  ",
           " it is your turn, and you are located at A 1 "]
@@ -75,29 +74,16 @@ class StartUp(GameTest):
 
 
 class StoredChoice(GameTest):
-    def test_a_later_start_asks_nothing_and_prompts_once(self):
+    def test_a_later_start_asks_nothing_prompts_once_names_each_move_and_the_score(self):
         self.start()
-        self.session.keys("F2", window=self.window)
-        self.session.wait_for_count(len(PROMPT) + 2)
-        self.assertEqual(self.session.texts()[:len(PROMPT) + 1],
-                         PROMPT + [" You have sank  0 of my ships.  "])
-        tree = "\n".join(self.session.accessible_tree())
-        self.assertNotIn("dialog|Screen Reader", tree)
-
-    def test_cursor_moves_name_each_cell(self):
-        self.start()
+        self.assertNotIn("dialog|Screen Reader", "\n".join(self.session.accessible_tree()))
         # A key silences what is still being said, so each move is heard out before the next.
-        for count, key in enumerate(["Down", "Right", "Right", "Up"], len(PROMPT) + 1):
+        for count, key in enumerate(["Down", "Right", "Right", "Up", "F2"], len(PROMPT) + 1):
             self.session.keys(key, window=self.window)
             self.session.wait_for_count(count)
-        self.assertEqual(self.session.texts()[len(PROMPT):], ["B  1", "B  2", "B  3", "A  3"])
-
-    def test_status_at_the_start_is_two_counts_of_nothing(self):
-        self.start()
-        self.session.keys("F2", window=self.window)
-        self.session.wait_for_count(len(PROMPT) + 2)
-        self.assertEqual(self.session.texts()[len(PROMPT):],
-                         [" You have sank  0 of my ships.  ", " I have sank  0 of your ships.  "])
+        self.session.wait_for_count(len(PROMPT) + 6)
+        self.assertEqual(self.session.texts(), PROMPT + ["B  1", "B  2", "B  3", "A  3"] + [
+            " You have sank  0 of my ships.  ", " I have sank  0 of your ships.  "])
 
 
 class TurnCycle(GameTest):
@@ -157,28 +143,6 @@ class TurnCycle(GameTest):
         sounds = self.session.sounds_heard()
         self.assertEqual(sounds[:3], ["begin", "sonar", "shoot"])
 
-    @staticmethod
-    def computers_answer(spoken):
-        """When the computer's shot was answered, after its announcement; None before."""
-        announced = next((i for i, (_, s) in enumerate(spoken) if TARGETING.match(s)), None)
-        if announced is None:
-            return None
-        return next((t for t, s in spoken[announced + 1:] if COMPUTER_RESULT.match(s)), None)
-
-    def test_a_key_in_the_reminder_window_drops_the_reminder(self):
-        self.start()
-        self.session.keys("Return", window=self.window)
-        # A miss sounds the same from either side: the computer's is after its announcement.
-        fired = harness.wait_until(lambda: self.computers_answer(self.session.spoken()), 15)
-        self.assertTrue(fired, self.session.texts())
-        # Within the two seconds before the reminder.
-        self.session.keys("shift", window=self.window)
-        self.session.wait_past(fired, 4)
-        self.session.keys("F2", window=self.window)
-        self.session.wait_for_text(" You have sank  0 of my ships.  ")
-        self.assertFalse(any(s.startswith("It is your turn and") for s in self.session.texts()))
-
-
 class Menus(GameTest):
     def test_new_game_answered_no_then_yes(self):
         self.start()
@@ -206,13 +170,6 @@ class Menus(GameTest):
         self.assertEqual(self.session.game.returncode, 0)
         harness.wait_until(lambda: "end" in self.session.sounds_heard(), 5)
         self.assertEqual(self.session.sounds_heard()[-1], "end")
-
-    def test_closing_the_window_asks_like_exit(self):
-        self.start()
-        self.session.close_window(self.window)
-        self.session.wait_for_alert("There is a game in progress.")
-        self.session.keys("Return")
-        self.assertTrue(self.session.game_ended(10))
 
     def test_about_box_and_help_window_open_and_can_be_read(self):
         self.start()
@@ -265,59 +222,8 @@ class NoServices(GameTest):
 
 
 class SoundsThenWords(GameTest):
-    """Words said after sounds wait until the last of them is heard: the opening prompt for
-    the sonar, each shot's result for its shot, hit and sink. A sound's start is read off
-    the recording, on the speech log's clock; the sink renders a block (20 ms) at a time,
-    so the recording may place a start that much late."""
-
-    block = 0.02
-
-    def test_every_result_waits_for_its_sounds_until_a_ship_sinks(self):
-        self.start()
-        self.fired, self.hits, self.at = set(), {}, (1, 1)
-        while not self.play_a_turn():
-            pass
-        results = [(t, s) for t, s in self.session.spoken()
-                   if s == PROMPT[0] or PLAYER_RESULT.match(s) or COMPUTER_RESULT.match(s)]
-        # A sound is found by a stretch from its middle, so the last one shows a little late.
-        runs = harness.wait_until(lambda: self.runs_of_sounds(len(results)), 5)
-        self.assertTrue(runs, (self.session.sound_times(), results))
-        for (said, text), run in zip(results, runs):
-            self.assertGreaterEqual(said, run[-1][0] - self.block, (text, run))
-
-    def runs_of_sounds(self, count):
-        """The first `count` runs of sounds, each played for one event (the start, a shot),
-        once the last has ended in a sinking."""
-        runs = []
-        for when, name in self.session.sound_times():
-            if name in ("begin", "shoot"):
-                runs.append([])
-            runs[-1].append((when, name))
-        return runs[:count] if len(runs) >= count and runs[count - 1][-1][1] == "sink" else None
-
-    def play_a_turn(self):
-        """Fires at the next cell of a simple hunt and hears the computer's shot; whether
-        either sank a ship."""
-        target = hunt.next_target(self.fired, self.hits)
-        if hunt.moves(self.at, target):
-            self.session.keys(*hunt.moves(self.at, target), window=self.window)
-        self.at, heard = target, len(self.session.texts())
-        self.fired.add(target)
-        self.session.keys("Return", window=self.window)
-        result = harness.wait_until(lambda: next(
-            (s for s in self.session.texts()[heard:] if PLAYER_RESULT.match(s)), None), 10)
-        self.assertTrue(result, self.session.texts()[heard:])
-        if result.startswith(" You sank"):
-            return True
-        if PLAYER_RESULT.match(result).group(2):
-            self.hits.setdefault(PLAYER_RESULT.match(result).group(2), []).append(target)
-
-        def answer():  # a miss sounds the same from either side: it follows the aiming
-            said = self.session.texts()[heard:]
-            aimed = next((i for i, s in enumerate(said) if TARGETING.match(s)), len(said))
-            return next((s for s in said[aimed + 1:] if COMPUTER_RESULT.match(s)), None)
-        self.assertTrue(harness.wait_until(answer, 15), self.session.texts()[heard:])
-        return answer().startswith(" I sank")
+    """Words said after sounds wait until the last of them is heard (a whole game's in
+    test_last_shot.py); a key drops those still waiting."""
 
     def test_a_key_drops_the_words_waiting_behind_a_sound(self):
         self.session.launch()
