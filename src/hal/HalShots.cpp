@@ -20,7 +20,7 @@ void HalShots::HalShot(std::int16_t row, std::int16_t col) {
         if (code == CellCode::OpenWater) {
             // A miss leaves the hunt as it is: the next search starts from the same hit.
             HalRegisterHit(CellCode::FiredWater);
-            sounds_.PlaySound(sound::Shoot);
+            sounds_.PlaySound(Sound::Shoot);
             HalSpeakCell(" was a miss  ");
         } else if (const auto ship = shipWithIntactCode(code)) {
             hit(shipInfo(*ship), row, col);
@@ -33,13 +33,13 @@ void HalShots::hit(const ShipInfo& ship, std::int16_t row, std::int16_t col) {
     state_.HalHunting = kTrue;
     state_.HalHuntShip = ship.intactCode;
     HalRegisterHit(add16(ship.intactCode, CellCode::HitOffset));
-    sounds_.PlaySound(sound::Shoot);
-    sounds_.PlaySound(sound::Hit);
+    sounds_.PlaySound(Sound::Shoot);
+    sounds_.PlaySound(Sound::Hit);
     std::int16_t& hits = state_.HalHits[ship.type];
     hits = add16(hits, 1);
     if (hits == ship.length) {
         state_.HalSunkCount = add16(state_.HalSunkCount, 1);
-        sounds_.PlaySound(sound::Sink);
+        sounds_.PlaySound(Sound::Sink);
         state_.HalSunk[ship.type] = kTrue;
         speech_.Speak(ship.halSinkText);
         targeting_.ClearHits();
