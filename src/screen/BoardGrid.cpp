@@ -32,7 +32,7 @@ std::string_view markPhrase(std::string_view mark) {
 }  // namespace
 
 std::string GameScreen::describeCell(int row, int col, std::string_view mark) {
-    std::string text = rowLetter(static_cast<std::int16_t>(row)) + " " + std::to_string(col);
+    std::string text = shortCellName(row, col);
     if (const std::string_view phrase = trimmedBlanks(markPhrase(mark)); !phrase.empty()) {
         text += ", ";
         text += phrase;

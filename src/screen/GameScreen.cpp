@@ -94,7 +94,7 @@ void GameScreen::tmrStartDelay_Timer() {
 }
 
 std::string GameScreen::cursorCellName() {
-    return rowLetter(static_cast<std::int16_t>(flex_.row())) + " " + numberText(flex_.col());
+    return cellName(static_cast<std::int16_t>(flex_.row()), static_cast<std::int16_t>(flex_.col()));
 }
 
 std::string GameScreen::turnReminder() {
