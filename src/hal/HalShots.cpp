@@ -8,6 +8,7 @@
 #include "model/CellName.h"
 #include "model/GameState.h"
 #include "model/Int16.h"
+#include "model/Ships.h"
 #include "speech/SoundFiles.h"
 #include "speech/Speech.h"
 #include "support/Guard.h"
@@ -21,7 +22,7 @@ void HalShots::HalShot(std::int16_t row, std::int16_t col) {
             // A miss leaves the hunt as it is: the next search starts from the same hit.
             HalRegisterHit(CellCode::FiredWater);
             sounds_.PlaySound(Sound::Shoot);
-            HalSpeakCell(" was a miss  ");
+            HalSpeakCell(kMissText);
         } else if (const auto ship = shipWithIntactCode(code)) {
             hit(shipInfo(*ship), row, col);
         }

@@ -7,6 +7,7 @@
 #include "model/CellName.h"
 #include "model/GameState.h"
 #include "model/Int16.h"
+#include "model/Ships.h"
 #include "ports/GridControl.h"
 #include "speech/SoundFiles.h"
 #include "speech/Speech.h"
@@ -15,7 +16,6 @@
 namespace marivox {
 namespace {
 
-constexpr std::string_view kMissText = " was a miss  ";
 constexpr std::string_view kRepeatMissText = " was already targeted, and was a miss  ";
 
 }  // namespace

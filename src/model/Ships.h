@@ -75,6 +75,9 @@ inline constexpr std::array<ShipInfo, 6> kShips{{
      " my submarine ", " your submarine ", "submarine"},
 }};
 
+// Either side's shot into open water, after the cell's name.
+inline constexpr std::string_view kMissText = " was a miss  ";
+
 constexpr const ShipInfo& shipInfo(ShipType type) {
     return kShips[static_cast<std::size_t>(type)];
 }
