@@ -8,6 +8,7 @@
 #include <array>
 
 #include "ports/Forms.h"
+#include "ports/ProgramName.h"
 
 namespace marivox::layout {
 
@@ -21,7 +22,7 @@ struct Label {
     Place place;
 };
 
-inline constexpr const char* kGameCaption = "Marivox";
+inline constexpr const char* kGameCaption = kProgramName;
 inline constexpr int kGameClientWidth = 9660;
 inline constexpr int kGameClientHeight = 6015;
 inline constexpr Place kBoard{0, 0, 10000, 2800};
