@@ -8,6 +8,7 @@
 #include "model/CellName.h"
 #include "model/GameState.h"
 #include "model/Int16.h"
+#include "model/Ships.h"
 #include "speech/SoundFiles.h"
 #include "speech/Speech.h"
 #include "support/Guard.h"
@@ -20,8 +21,8 @@ void HalShots::HalShot(std::int16_t row, std::int16_t col) {
         if (code == CellCode::OpenWater) {
             // A miss leaves the hunt as it is: the next search starts from the same hit.
             HalRegisterHit(CellCode::FiredWater);
-            sounds_.PlaySound(sound::Shoot);
-            HalSpeakCell(" was a miss  ");
+            sounds_.PlaySound(Sound::Shoot);
+            HalSpeakCell(kMissText);
         } else if (const auto ship = shipWithIntactCode(code)) {
             hit(shipInfo(*ship), row, col);
         }
@@ -33,13 +34,13 @@ void HalShots::hit(const ShipInfo& ship, std::int16_t row, std::int16_t col) {
     state_.HalHunting = kTrue;
     state_.HalHuntShip = ship.intactCode;
     HalRegisterHit(add16(ship.intactCode, CellCode::HitOffset));
-    sounds_.PlaySound(sound::Shoot);
-    sounds_.PlaySound(sound::Hit);
+    sounds_.PlaySound(Sound::Shoot);
+    sounds_.PlaySound(Sound::Hit);
     std::int16_t& hits = state_.HalHits[ship.type];
     hits = add16(hits, 1);
     if (hits == ship.length) {
         state_.HalSunkCount = add16(state_.HalSunkCount, 1);
-        sounds_.PlaySound(sound::Sink);
+        sounds_.PlaySound(Sound::Sink);
         state_.HalSunk[ship.type] = kTrue;
         speech_.Speak(ship.halSinkText);
         targeting_.ClearHits();

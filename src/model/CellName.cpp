@@ -26,4 +26,8 @@ std::string cellName(std::int16_t row, std::int16_t col) {
     return rowLetter(row) + " " + numberText(col);
 }
 
+std::string shortCellName(int row, int col) {
+    return rowLetter(static_cast<std::int16_t>(row)) + " " + std::to_string(col);
+}
+
 }  // namespace marivox

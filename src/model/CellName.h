@@ -18,4 +18,8 @@ std::string rowLetter(std::int16_t row);
 // two blanks stand between letter and digit ("B  7").
 std::string cellName(std::int16_t row, std::int16_t col);
 
+// A cell named as a player writes it, "E 3": what the board tells assistive technology and
+// what the review lists, where a second blank only slows a reader down.
+std::string shortCellName(int row, int col);
+
 }  // namespace marivox

@@ -7,6 +7,7 @@
 #include "model/CellName.h"
 #include "model/GameState.h"
 #include "model/Int16.h"
+#include "model/Ships.h"
 #include "ports/GridControl.h"
 #include "speech/SoundFiles.h"
 #include "speech/Speech.h"
@@ -15,7 +16,6 @@
 namespace marivox {
 namespace {
 
-constexpr std::string_view kMissText = " was a miss  ";
 constexpr std::string_view kRepeatMissText = " was already targeted, and was a miss  ";
 
 }  // namespace
@@ -27,7 +27,7 @@ void PlayerShots::MyShot() {
             SpeakCell(kRepeatMissText);
         } else if (code == CellCode::OpenWater) {
             RegisterHit(CellCode::FiredWater);
-            sounds_.PlaySound(sound::Shoot);
+            sounds_.PlaySound(Sound::Shoot);
             SpeakCell(kMissText);
         } else if (const auto ship = shipWithIntactCode(code)) {
             freshHit(shipInfo(*ship));
@@ -39,15 +39,15 @@ void PlayerShots::MyShot() {
 
 void PlayerShots::freshHit(const ShipInfo& ship) {
     RegisterHit(add16(ship.intactCode, CellCode::HitOffset));
-    sounds_.PlaySound(sound::Shoot);
-    sounds_.PlaySound(sound::Hit);
+    sounds_.PlaySound(Sound::Shoot);
+    sounds_.PlaySound(Sound::Hit);
     std::int16_t& hits = state_.MyHits[ship.type];
     hits = add16(hits, 1);
     // Compared after the count is raised: the hit that completes the length sinks the ship.
     if (hits == ship.length) {
         state_.MySunk[ship.type] = kTrue;
         state_.MySunkCount = add16(state_.MySunkCount, 1);
-        sounds_.PlaySound(sound::Sink);
+        sounds_.PlaySound(Sound::Sink);
         speech_.Speak(ship.playerSinkText);
     } else {
         SpeakCell(ship.playerHitText);

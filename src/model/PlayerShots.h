@@ -5,10 +5,12 @@
 #include <cstdint>
 #include <string_view>
 
+#include "ports/MarkNames.h"
+
 namespace marivox {
 
 // The board's mark of a cell where the player's shot missed.
-inline constexpr std::string_view kMissMark = "M";
+inline constexpr std::string_view kMissMark = kMissNames.letter;
 
 class GridControl;
 class Guard;

@@ -7,6 +7,8 @@
 #include <optional>
 #include <string_view>
 
+#include "ports/MarkNames.h"
+
 namespace marivox {
 
 // In the order of the tallies and of the spoken score; the cell codes run in another order.
@@ -30,7 +32,7 @@ struct ShipInfo {
     std::int16_t length;
     std::int16_t intactCode;
     std::int16_t hitCode;
-    std::string_view letter;  // the grid mark of a hit on this ship
+    std::string_view letter;  // the grid mark of a hit on this ship, as the legend lists it
     // The player's shots at the computer's fleet.
     std::string_view playerHitText;     // after the cell's name
     std::string_view playerSinkText;    // spoken alone
@@ -48,32 +50,36 @@ struct ShipInfo {
 };
 
 inline constexpr std::array<ShipInfo, 6> kShips{{
-    {ShipType::Carrier, 5, 10, 20, "A", " was a hit on my air craft carrier  ",
+    {ShipType::Carrier, 5, 10, 20, kCarrierNames.letter, " was a hit on my air craft carrier  ",
      " You sank my air craft carrier  ",
      " was already targeted, and was a hit on my air craft carrier  ",
      " was a hit on your air craft carrier  ", " I sank your air craft carrier  ",
      " hit air craft carrier  ", " my air craft carrier ", " your air craft carrier ",
-     "air craft carrier"},
-    {ShipType::Cruiser, 4, 12, 22, "C", " was a hit on my cruiser  ", " You sank my cruiser  ",
-     " was already targeted, and was a hit on my cruiser  ", " was a hit on your cruiser  ",
-     " I sank your cruiser  ", " hit cruiser  ", " my cruiser ", " your cruiser ", "cruiser"},
-    {ShipType::Destroyer, 4, 13, 23, "D", " was a hit on my destroyer  ",
+     kCarrierNames.spoken},
+    {ShipType::Cruiser, 4, 12, 22, kCruiserNames.letter, " was a hit on my cruiser  ",
+     " You sank my cruiser  ", " was already targeted, and was a hit on my cruiser  ",
+     " was a hit on your cruiser  ", " I sank your cruiser  ", " hit cruiser  ", " my cruiser ",
+     " your cruiser ", kCruiserNames.spoken},
+    {ShipType::Destroyer, 4, 13, 23, kDestroyerNames.letter, " was a hit on my destroyer  ",
      " You sank my destroyer  ", " was already targeted, and was a hit on my destroyer  ",
      " was a hit on your destroyer  ", " I sank your destroyer  ", " hit destroyer  ",
-     " my destroyer ", " your destroyer ", "destroyer"},
-    {ShipType::Battleship, 4, 11, 21, "B", " was a hit on my Battle ship  ",
+     " my destroyer ", " your destroyer ", kDestroyerNames.spoken},
+    {ShipType::Battleship, 4, 11, 21, kBattleshipNames.letter, " was a hit on my Battle ship  ",
      " You sank my Battle ship  ", " was already targeted, and was a hit on my battle ship  ",
      " was a hit on your Battle ship  ", " I sank your Battle ship  ", " hit battleship  ",
-     " my battleship ", " your battleship ", "battleship"},
-    {ShipType::PatrolBoat, 3, 14, 24, "P", " was a hit on my patrol boat  ",
+     " my battleship ", " your battleship ", kBattleshipNames.spoken},
+    {ShipType::PatrolBoat, 3, 14, 24, kPatrolBoatNames.letter, " was a hit on my patrol boat  ",
      " You sank my patrol boat  ", " was already targeted, and was a hit on my patrol boat  ",
      " was a hit on your patrol boat  ", " I sank your patrol boat  ", " hit patrol boat  ",
-     " my patrol boat ", " your patrol boat ", "patrol boat"},
-    {ShipType::Submarine, 2, 15, 25, "S", " was a hit on my submarine  ",
+     " my patrol boat ", " your patrol boat ", kPatrolBoatNames.spoken},
+    {ShipType::Submarine, 2, 15, 25, kSubmarineNames.letter, " was a hit on my submarine  ",
      " You sank my submarine  ", " was already targeted, and was a hit on my submarine  ",
      " was a hit on your submarine  ", " I sank your submarine  ", " hit submarine  ",
-     " my submarine ", " your submarine ", "submarine"},
+     " my submarine ", " your submarine ", kSubmarineNames.spoken},
 }};
+
+// Either side's shot into open water, after the cell's name.
+inline constexpr std::string_view kMissText = " was a miss  ";
 
 constexpr const ShipInfo& shipInfo(ShipType type) {
     return kShips[static_cast<std::size_t>(type)];

@@ -5,9 +5,14 @@
 // and legend, and the places of the dialogs' controls, in twips (1440 to the inch). The menus
 // are ports/Commands.h's.
 
+#include <algorithm>
 #include <array>
+#include <cstddef>
+#include <string_view>
 
 #include "ports/Forms.h"
+#include "ports/MarkNames.h"
+#include "ports/ProgramName.h"
 
 namespace marivox::layout {
 
@@ -21,16 +26,54 @@ struct Label {
     Place place;
 };
 
-inline constexpr const char* kGameCaption = "Marivox";
+// The legend lists the marks by letter, three blanks between entries: "A = Aircraft Carrier".
+namespace legend {
+
+constexpr std::array<MarkNames, kMarks.size()> byLetter() {
+    auto marks = kMarks;
+    std::sort(marks.begin(), marks.end(),
+              [](const MarkNames& a, const MarkNames& b) { return a.letter < b.letter; });
+    return marks;
+}
+
+// Writes entries [first, last) into out, when there is one, and returns their length.
+constexpr std::size_t writeEntries(std::size_t first, std::size_t last, char* out) {
+    std::size_t at = 0;
+    const auto put = [&](std::string_view piece) {
+        for (const char c : piece) {
+            if (out != nullptr) {
+                out[at] = c;
+            }
+            ++at;
+        }
+    };
+    for (std::size_t i = first; i < last; ++i) {
+        put(i > first ? "   " : "");
+        put(byLetter()[i].letter);
+        put(" = ");
+        put(byLetter()[i].legend);
+    }
+    return at;
+}
+
+// One line of the legend, ended by a NUL for the windows.
+template <std::size_t First, std::size_t Last>
+inline constexpr auto kLine = [] {
+    std::array<char, writeEntries(First, Last, nullptr) + 1> text{};
+    writeEntries(First, Last, text.data());
+    return text;
+}();
+
+}  // namespace legend
+
+inline constexpr const char* kGameCaption = kProgramName;
 inline constexpr int kGameClientWidth = 9660;
 inline constexpr int kGameClientHeight = 6015;
 inline constexpr Place kBoard{0, 0, 10000, 2800};
 inline constexpr std::array<Label, 3> kLegend{{
     {"lblLabel0", "Click on a cell to shoot!", {2500, 3000, 5000, 255}},
-    {"lblLabel1", "A = Aircraft Carrier   B = Battleship   C = Cruiser", {2500, 3500, 5000, 255}},
-    {"lblLabel2",
-     "D = Destroyer   M = Miss   P = Patrol Boat   S = Submarine",
-     {2500, 3900, 5000, 255}},
+    {"lblLabel1", legend::kLine<0, 3>.data(), {2500, 3500, 5000, 255}},
+    {"lblLabel2", legend::kLine<3, kMarks.size()>.data(), {2500, 3900, 5000, 255}},
 }};
 
 // The dialog "Screen Reader".

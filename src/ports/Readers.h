@@ -25,6 +25,8 @@ inline constexpr unsigned kEveryPlatform = Platform::Linux | Platform::Windows;
 
 inline constexpr ReaderRow kJaws{"JFW", "JAWS For Windows", kEveryPlatform, false, true};
 inline constexpr ReaderRow kWindowEyes{"WE", "Window-Eyes", kEveryPlatform, true, false};
+// The class of the object the "WE" choice starts; the fakes name it as the driver does.
+inline constexpr std::string_view kWindowEyesClass = "GWSpeak.Speak";
 inline constexpr ReaderRow kNvda{"NVDA", "NVDA", Platform::Windows, false, false};
 inline constexpr ReaderRow kWindowsVoices{"SAPI", "Windows voices (no screen reader)",
                                           Platform::Windows, false, false};

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/CellName.h"
 #include "model/GameState.h"
+#include "model/PlayerShots.h"
 #include "model/Ships.h"
 #include "screen/GameScreen.h"
 #include "screen/ScreenTexts.h"
@@ -20,7 +21,7 @@ constexpr int kHeadingTwips = 300;
 // What is known of a cell from its mark, as the cursor's speech adds it; nothing for a cell
 // not fired at.
 std::string_view markPhrase(std::string_view mark) {
-    if (mark == "M") {
+    if (mark == kMissMark) {
         return screen::kCursorMissText;
     }
     if (const auto ship = shipWithLetter(mark)) {
@@ -32,7 +33,7 @@ std::string_view markPhrase(std::string_view mark) {
 }  // namespace
 
 std::string GameScreen::describeCell(int row, int col, std::string_view mark) {
-    std::string text = rowLetter(static_cast<std::int16_t>(row)) + " " + std::to_string(col);
+    std::string text = shortCellName(row, col);
     if (const std::string_view phrase = trimmedBlanks(markPhrase(mark)); !phrase.empty()) {
         text += ", ";
         text += phrase;

@@ -16,12 +16,6 @@
 namespace marivox::review {
 namespace {
 
-// A cell named as a player writes it, "E 3": the spoken cell name's second blank only
-// slows a reader down when several names follow one another.
-std::string shortName(int row, int col) {
-    return rowLetter(static_cast<std::int16_t>(row)) + " " + std::to_string(col);
-}
-
 std::string listed(const std::vector<std::string>& names) {
     std::string text;
     for (std::size_t i = 0; i < names.size(); ++i) {
@@ -95,7 +89,7 @@ std::vector<std::string> fleetOf(const Ocean& ocean) {
             for (int col = kFirstLine; col <= kLastLine; ++col) {
                 const std::int16_t code = ocean(row, col);
                 if (code == ship.intactCode || code == ship.hitCode) {
-                    cells.push_back(shortName(row, col));
+                    cells.push_back(shortCellName(row, col));
                     if (code == ship.hitCode) {
                         hits.push_back(cells.back());
                     }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "ports/Failure.h"
+#include "ports/ProgramName.h"
 #include "ports/SettingsStore.h"
 #include "screen/GameScreen.h"
 #include "speech/Speech.h"
@@ -17,7 +18,6 @@
 namespace marivox {
 namespace {
 
-constexpr std::string_view kApplication = "Marivox";
 constexpr std::string_view kSection = "Display";
 constexpr std::string_view kZoomKey = "Zoom";
 constexpr std::string_view kContrastKey = "HighContrast";
@@ -39,7 +39,7 @@ std::optional<int> storedNumber(std::string_view text, auto allowed) {
 // first start, and the reader choice, read next, still reports a settings service that fails.
 std::string storedText(SettingsStore& settings, std::string_view key) {
     try {
-        return settings.GetSetting(kApplication, kSection, key, "");
+        return settings.GetSetting(kProgramName, kSection, key, "");
     } catch (const Failure&) {
         return {};
     }
@@ -68,10 +68,10 @@ void GameScreen::changeDisplay(int zoom, bool highContrast, std::string_view spo
     speech_.StopSpeech();
     speech_.Speak(spoken);
     if (zoomChanged) {
-        services_.settings.SaveSetting(kApplication, kSection, kZoomKey, std::to_string(zoom_));
+        services_.settings.SaveSetting(kProgramName, kSection, kZoomKey, std::to_string(zoom_));
     }
     if (contrastChanged) {
-        services_.settings.SaveSetting(kApplication, kSection, kContrastKey,
+        services_.settings.SaveSetting(kProgramName, kSection, kContrastKey,
                                        highContrast_ ? "1" : "0");
     }
 }

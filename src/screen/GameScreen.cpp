@@ -61,8 +61,8 @@ void GameScreen::Form_Load() {
 
 void GameScreen::BeginGame() {
     guard_.run(Procedure::BeginGame, [&] {
-        sounds_.PlaySound(sound::Begin);
-        sounds_.PlaySound(sound::Sonar);
+        sounds_.PlaySound(Sound::Begin);
+        sounds_.PlaySound(Sound::Sonar);
         state_.SettingUp = kTrue;
         LoadGrid();
         boards_.InitializeBoards();
@@ -94,7 +94,7 @@ void GameScreen::tmrStartDelay_Timer() {
 }
 
 std::string GameScreen::cursorCellName() {
-    return rowLetter(static_cast<std::int16_t>(flex_.row())) + " " + numberText(flex_.col());
+    return cellName(static_cast<std::int16_t>(flex_.row()), static_cast<std::int16_t>(flex_.col()));
 }
 
 std::string GameScreen::turnReminder() {
@@ -134,7 +134,7 @@ void GameScreen::Form_Unload(std::int16_t& cancel) {
                 }
             }
             services_.window.unloadOtherWindows();
-            sounds_.PlaySound(sound::End);
+            sounds_.PlaySound(Sound::End);
             releaseStartedReader();
         },
         FailureSteps::after([&] { services_.application.endNow(); }));

@@ -37,8 +37,8 @@ void GameScreen::flex_Click() {
         flex_.setCellForeColor(flex_.foreColor());
         state_.Shooting = kFalse;
         if (boards_.GameOver()) {
-            sounds_.PlaySound(sound::YouWin1);
-            sounds_.PlaySound(sound::YouWin2);
+            sounds_.PlaySound(Sound::YouWin1);
+            sounds_.PlaySound(Sound::YouWin2);
             state_.GameInProgress = kFalse;
             askToPlayAgain(kPlayerWins);
         } else if (state_.TurnState == kComputersTurn) {
@@ -75,7 +75,7 @@ void GameScreen::tmrTimer1_Timer() {
             state_.TurnState = kPlayersTurn;
             tmrTimer2_->switchOn();
         } else {
-            sounds_.PlaySound(sound::Laugh1);
+            sounds_.PlaySound(Sound::Laugh1);
             state_.GameInProgress = kFalse;
             askToPlayAgain(kComputerWins);
         }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ports/MessageBoxes.h"
+#include "ports/ProgramName.h"
 #include "ports/ScreenReaders.h"
 #include "ports/SettingsStore.h"
 #include "speech/ScreenReaderState.h"
@@ -14,7 +15,6 @@
 namespace marivox {
 namespace {
 
-constexpr std::string_view kApplication = "Marivox";
 constexpr std::string_view kSection = "StartUp";
 constexpr std::string_view kKey = "Reader";
 
@@ -25,7 +25,7 @@ constexpr std::string_view kMustChoose =
 }  // namespace
 
 std::string ScreenReaderChoice::readSetting() {
-    return settings_.GetSetting(kApplication, kSection, kKey, kNoReader);
+    return settings_.GetSetting(kProgramName, kSection, kKey, kNoReader);
 }
 
 void ScreenReaderChoice::startReaderIfChosen() {
@@ -60,7 +60,7 @@ void ScreenReaderChoice::GetScreenReader() {
 
 void ScreenReaderChoice::SaveScreenReader() {
     guard_.run(Procedure::SaveScreenReader, [&] {
-        settings_.SaveSetting(kApplication, kSection, kKey, trimmedBlanks(reader_.ScreenReader));
+        settings_.SaveSetting(kProgramName, kSection, kKey, trimmedBlanks(reader_.ScreenReader));
     });
 }
 

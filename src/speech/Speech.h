@@ -4,6 +4,8 @@
 
 #include <string_view>
 
+#include "speech/SoundFiles.h"
+
 namespace marivox {
 
 // The one way the game speaks. Speak queues after what is being said; StopSpeech silences.
@@ -18,11 +20,11 @@ class Speech {
     virtual void SilenceWaiting() {}
 };
 
-// The one way the game plays a sound effect, named by its file-name text ("\shoot.wav").
+// The one way the game plays a sound effect.
 class Sounds {
   public:
     virtual ~Sounds() = default;
-    virtual void PlaySound(std::string_view name) = 0;
+    virtual void PlaySound(Sound sound) = 0;
 };
 
 }  // namespace marivox

@@ -43,13 +43,13 @@ void SpeechAfterSounds::Speak(std::string_view text) {
     }
 }
 
-void SpeechAfterSounds::PlaySound(std::string_view name) {
-    sounds_.PlaySound(name);
-    const auto sound = ++requested_;
+void SpeechAfterSounds::PlaySound(Sound sound) {
+    sounds_.PlaySound(sound);
+    const auto number = ++requested_;
     // The notice may come at once, before this returns.
-    player_.whenAcceptedSoundsHeard([this, sound, alive = alive_] {
+    player_.whenAcceptedSoundsHeard([this, number, alive = alive_] {
         if (*alive) {
-            heardUpTo(sound);
+            heardUpTo(number);
         }
     });
     if (begun_ < requested_) {

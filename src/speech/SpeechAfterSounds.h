@@ -31,7 +31,7 @@ class SpeechAfterSounds : public Speech, public Sounds {
     void Speak(std::string_view text) override;
     void StopSpeech() override { speech_.StopSpeech(); }
     void SilenceWaiting() override { held_.clear(); }
-    void PlaySound(std::string_view name) override;
+    void PlaySound(Sound sound) override;
 
     // Holds the caller, without taking the player's input, until every sound asked for so far
     // has begun and the words behind them have been said (or the bound has passed). A modal

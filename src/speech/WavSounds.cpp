@@ -21,10 +21,10 @@ constexpr int kMaxRetries = 600;
 
 }  // namespace
 
-void WavSounds::PlaySound(std::string_view name) {
+void WavSounds::PlaySound(Sound sound) {
     guard_.run(Procedure::PlaySound, [&] {
         std::string path = application_.programFolder();
-        path += name;
+        path += sound::name(sound);
         player_.open(nativePath(path));
         player_.play(0, -1, true);
         for (int retry = 0; player_.status() == WavPlayer::kDeviceBusy && retry < kMaxRetries;

@@ -18,7 +18,7 @@ class WavSounds : public Sounds {
     WavSounds(WavPlayer& player, Application& application, Sleeper& sleeper, Guard& guard)
         : player_(player), application_(application), sleeper_(sleeper), guard_(guard) {}
 
-    void PlaySound(std::string_view name) override;
+    void PlaySound(Sound sound) override;
 
   private:
     WavPlayer& player_;

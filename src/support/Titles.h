@@ -4,11 +4,13 @@
 
 #include <string_view>
 
+#include "ports/ProgramName.h"
+
 namespace marivox {
 
 // The game screen's caption, which also titles every question and error report.
-inline constexpr std::string_view kGameScreenCaption = "Marivox";
+inline constexpr std::string_view kGameScreenCaption = kProgramName;
 // The application title that start-up gives the running program.
-inline constexpr std::string_view kApplicationTitle = "Marivox";
+inline constexpr std::string_view kApplicationTitle = kProgramName;
 
 }  // namespace marivox

@@ -69,7 +69,7 @@ TEST(GridContract, Qt) {
         [&] { return grid.currentItem()->data(Qt::AccessibleTextRole).toString().toStdString(); });
 }
 
-std::string soundFile(std::string_view sound) {
+std::string soundFile(Sound sound) {
     return (fs::path(MARIVOX_PROGRAM_DIR) / sound::fileName(sound)).string();
 }
 
@@ -101,7 +101,7 @@ TEST(Player, PlaysEachSoundWholeInOrderWithoutAGap) {
         return std::make_unique<Device>(heard);
     });
     Samples expected;
-    for (const std::string_view sound : {sound::Shoot, sound::Hit, sound::Shoot, sound::Sink}) {
+    for (const Sound sound : {Sound::Shoot, Sound::Hit, Sound::Shoot, Sound::Sink}) {
         player.open(soundFile(sound));
         player.play(0, -1, true);
         EXPECT_EQ(player.status(), 0);
@@ -110,7 +110,7 @@ TEST(Player, PlaysEachSoundWholeInOrderWithoutAGap) {
         expected.insert(expected.end(), samples.begin(), samples.end());
     }
     const auto beforeLast =
-        expected.size() - audio::toMono(audio::readWavFile(soundFile(sound::Sink))).size();
+        expected.size() - audio::toMono(audio::readWavFile(soundFile(Sound::Sink))).size();
     std::size_t heardWhenTold = 0;
     player.whenAcceptedSoundsHeard([&] {
         std::lock_guard lock(heard->first);
@@ -129,8 +129,8 @@ TEST(Player, PlaysEachSoundWholeInOrderWithoutAGap) {
 TEST(WavFiles, ReadAsTheirNamesSayAndDamagedOnesAreRefused) {
     const fs::path corpus = fs::path(MARIVOX_SOURCE_DIR) / "tests/fuzz/corpus/wav_fuzzer";
     std::vector<fs::path> files(fs::directory_iterator(corpus), {});
-    for (const std::string_view sound : sound::kAll) {
-        files.emplace_back(soundFile(sound));
+    for (const sound::File& sound : sound::kFiles) {
+        files.emplace_back(soundFile(sound.sound));
     }
     for (const fs::path& file : files) {
         const std::string name = file.filename().string();

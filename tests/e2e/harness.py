@@ -30,7 +30,7 @@ BUILD = os.environ.get("MARIVOX_BUILD_DIR", os.path.join(SOURCE, "build"))
 SAMPLE_RATE = 44100
 # The game's own list of its sounds, by the name before ".wav".
 with open(os.path.join(SOURCE, "src", "speech", "SoundFiles.h")) as _list:
-    SOUNDS = re.findall(r'= "\\\\(\w+)\.wav";', _list.read())
+    SOUNDS = re.findall(r'Sound::\w+, "\\\\(\w+)\.wav"', _list.read())
 
 
 class SessionError(RuntimeError):

@@ -445,8 +445,8 @@ struct FakeWavPlayer : WavPlayer, Recorder {
 };
 
 // Every screen reader, each voice writing its calls in its own words: JAWS "speak" and
-// "stop", Window-Eyes's object "we speak", "we silence" and, once created ("create
-// GWSpeak.Speak"), "we released"; any other reader "<stored value> say" and "stop".
+// "stop", Window-Eyes's object "we speak", "we silence" and, once created ("create" and its
+// name), "we released"; any other reader "<stored value> say" and "stop".
 struct FakeReaders : ReaderDrivers, Recorder {
     using Recorder::Recorder;
     struct Voice : ReaderVoice {
@@ -469,7 +469,7 @@ struct FakeReaders : ReaderDrivers, Recorder {
         std::string reader;
     };
     std::unique_ptr<ReaderVoice> voiceOf(std::string_view reader) override {
-        reader == kWindowEyes.stored ? t.record("create GWSpeak.Speak") : void();
+        reader == kWindowEyes.stored ? t.record("create " + std::string(kWindowEyesClass)) : void();
         return std::make_unique<Voice>(*this, reader);
     }
     void onLateFailure(LateFailureHandler handler) override { lateFailures = std::move(handler); }

@@ -22,8 +22,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path folder = argv[1];
-    for (const std::string_view sound : marivox::sound::kAll) {
-        const std::string_view name = marivox::sound::fileName(sound);
+    for (const marivox::sound::File& sound : marivox::sound::kFiles) {
+        const std::string_view name = marivox::sound::fileName(sound.sound);
         const soundgen::Recipe* recipe = soundgen::recipeFor(name);
         if (recipe == nullptr) {
             std::cerr << "soundgen: no recipe for " << name << "\n";

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "adapters/audio/WavFile.h"
+#include "ports/ProgramName.h"
 
 namespace marivox::pulse {
 namespace {
@@ -27,7 +28,7 @@ constexpr std::uint32_t kStartSamples = kOutputRate * 10 / 1000;
 void note(const char* what, int code) {
     static std::atomic<int> lastCode{0};
     if (lastCode.exchange(code) != code) {
-        std::cerr << "Marivox: " << what << ": " << pa_strerror(code) << "\n";
+        std::cerr << kProgramName << ": " << what << ": " << pa_strerror(code) << "\n";
     }
 }
 
@@ -87,7 +88,7 @@ audio::AudioConnector pulseConnector() {
         buffer.minreq = static_cast<std::uint32_t>(-1);
         buffer.fragsize = static_cast<std::uint32_t>(-1);
         int code = 0;
-        pa_simple* stream = pa_simple_new(nullptr, "Marivox", PA_STREAM_PLAYBACK, nullptr,
+        pa_simple* stream = pa_simple_new(nullptr, kProgramName, PA_STREAM_PLAYBACK, nullptr,
                                           "Sound effects", &format, nullptr, &buffer, &code);
         if (stream == nullptr) {
             note("no sound server", code);

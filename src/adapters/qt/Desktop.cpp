@@ -8,6 +8,7 @@
 #include <string>
 
 #include "ports/Failure.h"
+#include "ports/ProgramName.h"
 
 namespace marivox::qt {
 namespace {
@@ -45,8 +46,8 @@ void Desktop::escaped(std::string_view where, const std::exception& failure) {
             // Telling the player failed too; the note below is all that is left.
         }
     }
-    std::fprintf(stderr, "Marivox: %s in %.*s\n", failure.what(), static_cast<int>(where.size()),
-                 where.data());
+    std::fprintf(stderr, "%s: %s in %.*s\n", kProgramName, failure.what(),
+                 static_cast<int>(where.size()), where.data());
 }
 
 void Desktop::post(std::chrono::microseconds delay, std::function<void()> call) {

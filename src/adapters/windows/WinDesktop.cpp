@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "ports/Failure.h"
+#include "ports/ProgramName.h"
 
 namespace marivox::windows {
 namespace {
@@ -155,8 +156,8 @@ void Desktop::escaped(std::string_view where, const std::exception& failure) {
             // Reporting failed too; the note below is all that is left.
         }
     }
-    std::fprintf(stderr, "Marivox: %s in %.*s\n", failure.what(), static_cast<int>(where.size()),
-                 where.data());
+    std::fprintf(stderr, "%s: %s in %.*s\n", kProgramName, failure.what(),
+                 static_cast<int>(where.size()), where.data());
 }
 
 void Desktop::escapedOnAnyThread(std::string_view where, const std::exception& failure) {

@@ -15,10 +15,10 @@
 namespace marivox::windows {
 namespace {
 
-// The "WE" choice: Window-Eyes's automation object "GWSpeak.Speak", created when chosen.
+// The "WE" choice: Window-Eyes's automation object, created when chosen.
 class WindowEyesVoice : public ReaderVoice {
   public:
-    WindowEyesVoice() : object_("GWSpeak.Speak", "Window-Eyes") {}
+    WindowEyesVoice() : object_(kWindowEyesClass, "Window-Eyes") {}
     void say(std::string_view text) override {
         const Argument argument = Argument::text(text);
         object_.call(L"SpeakString", {&argument});

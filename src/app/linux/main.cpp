@@ -17,12 +17,13 @@
 #include "adapters/speechd/SpeechdReaders.h"
 #include "adapters/system/SystemClock.h"
 #include "app/linux/LinuxReaders.h"
+#include "ports/ProgramName.h"
 #include "screen/System.h"
 
 int main(int argc, char** argv) {
     using namespace marivox;
     qt::Desktop desktop(argc, argv);
-    QApplication::setApplicationName("Marivox");
+    QApplication::setApplicationName(kProgramName);
 
     const auto latency = probe::LatencyLog::fromEnvironment();
     qt::QtApplication application;
