@@ -46,17 +46,23 @@ const std::map<std::string, void (GameScreenEvents::*)()> kMenu = [] {
     return menu;
 }();
 
+// clang-format off
 const std::map<std::string, std::int16_t> kKeys{
-    {"Enter", KeyCode::Return},  {"F1", KeyCode::F1},
-    {"F2", KeyCode::F2},         {"Up", KeyCode::Up},
-    {"Down", KeyCode::Down},     {"Left", KeyCode::Left},
-    {"Right", KeyCode::Right},   {"Shift", KeyCode::Shift},
-    {"Escape", KeyCode::Escape}, {"F3", KeyCode::F3},
-    {"F4", KeyCode::F4},         {"F5", KeyCode::F5},
-    {"F6", KeyCode::F6},         {"Pad5", KeyCode::Numpad0 + 5},
-    {"Add", KeyCode::Add},       {"Subtract", KeyCode::Subtract},
-    {"Home", KeyCode::Home},     {"End", KeyCode::End},
-    {"PageUp", KeyCode::PageUp}, {"PageDown", KeyCode::PageDown}};
+    {"Enter", KeyCode::Return},      {"F1", KeyCode::F1},           {"F2", KeyCode::F2},
+    {"F3", KeyCode::F3},             {"F4", KeyCode::F4},           {"F5", KeyCode::F5},
+    {"F6", KeyCode::F6},             {"Up", KeyCode::Up},           {"Down", KeyCode::Down},
+    {"Left", KeyCode::Left},         {"Right", KeyCode::Right},     {"Home", KeyCode::Home},
+    {"End", KeyCode::End},           {"PageUp", KeyCode::PageUp},   {"PageDown", KeyCode::PageDown},
+    {"Shift", KeyCode::Shift},       {"Escape", KeyCode::Escape},   {"Add", KeyCode::Add},
+    {"Subtract", KeyCode::Subtract}};
+// clang-format on
+
+// A key by its name: one of the above, "Pad" and a keypad digit, or a letter or digit.
+std::int16_t keyCode(const std::string& name) {
+    return kKeys.contains(name)      ? kKeys.at(name)
+           : name.starts_with("Pad") ? static_cast<std::int16_t>(KeyCode::Numpad0 + name[3] - '0')
+                                     : name.at(0);
+}
 
 // The text of a line that writes a cell's text, or "".
 std::string cellText(const std::vector<std::string>& lines, std::size_t i) {
@@ -126,14 +132,17 @@ struct Scene {
             const std::size_t plus = rest.find('+');
             const std::string held = plus == rest.npos ? "" : rest.substr(0, plus);
             const std::string key = rest.substr(plus == rest.npos ? 0 : plus + 1);
-            r.window.press(kKeys.contains(key) ? kKeys.at(key) : key.at(0),
-                           held == "Alt"    ? ShiftState::Alt
-                           : held == "Ctrl" ? ShiftState::Control
-                                            : 0);
+            r.window.press(keyCode(key), held == "Alt"    ? ShiftState::Alt
+                                         : held == "Ctrl" ? ShiftState::Control
+                                                          : 0);
         } else if (verb == "move" || verb == "click") {
             const auto [row, col] = cellNamed(rest);
             verb == "move" ? r.window.board.playerMovesTo(row, col)
                            : r.window.board.playerClicks(row, col);
+        } else if (verb == "describe") {  // as assistive technology asks for a cell's name
+            const auto [row, col] = cellNamed(rest);
+            r.t.record("described " + fake::quoted(r.window.board.describer(
+                                          row, col, r.window.board.textMatrix(row, col))));
         } else if (verb == "menu") {
             (r.system.screen.*kMenu.at(rest))();
         } else if (verb == "close") {
@@ -379,7 +388,7 @@ TEST(Soak, RandomPlayKeepsEveryInvariantGameAfterGame) {
         scriptTheReaderDialog();
         if (event < 450) {
             const std::string key = keys[event < 360 ? event % 5 : event % std::size(keys)];
-            rig->window.press(kKeys.contains(key) ? kKeys.at(key) : key[0]);
+            rig->window.press(keyCode(key));
         } else if (event < 730) {
             rig->timers.advance(1 + roll(2999));
         } else if (event < 890) {
