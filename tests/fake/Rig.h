@@ -2,7 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "fake/Fakes.h"
+#include <map>
+#include <string>
+
+#include "fake/FakeServices.h"
+#include "ports/Commands.h"
+#include "ports/KeyCodes.h"
 #include "screen/System.h"
 #include "support/FaultInjector.h"
 
@@ -48,5 +53,31 @@ struct Rig {
     FaultPlan faults{t};
     System system;
 };
+
+// The rig driven by names, as scenes and random play drive it.
+// Every command of the game screen by its menu item's name.
+inline const std::map<std::string, void (GameScreenEvents::*)()> kMenu = [] {
+    std::map<std::string, void (GameScreenEvents::*)()> menu;
+    commands::forEach([&](const commands::Command& c) { menu[c.name] = c.handler; });
+    return menu;
+}();
+
+// clang-format off
+inline const std::map<std::string, std::int16_t> kKeys{
+    {"Enter", KeyCode::Return},      {"F1", KeyCode::F1},           {"F2", KeyCode::F2},
+    {"F3", KeyCode::F3},             {"F4", KeyCode::F4},           {"F5", KeyCode::F5},
+    {"F6", KeyCode::F6},             {"Up", KeyCode::Up},           {"Down", KeyCode::Down},
+    {"Left", KeyCode::Left},         {"Right", KeyCode::Right},     {"Home", KeyCode::Home},
+    {"End", KeyCode::End},           {"PageUp", KeyCode::PageUp},   {"PageDown", KeyCode::PageDown},
+    {"Shift", KeyCode::Shift},       {"Escape", KeyCode::Escape},   {"Add", KeyCode::Add},
+    {"Subtract", KeyCode::Subtract}};
+// clang-format on
+
+// A key by its name: one of the above, "Pad" and a keypad digit, or a letter or digit.
+inline std::int16_t keyCode(const std::string& name) {
+    return kKeys.contains(name)      ? kKeys.at(name)
+           : name.starts_with("Pad") ? static_cast<std::int16_t>(KeyCode::Numpad0 + name[3] - '0')
+                                     : name.at(0);
+}
 
 }  // namespace marivox::fake
