@@ -4,7 +4,9 @@
 stands, how its colour contrasts with its cell's (WCAG's ratio), how thick a frame is."""
 
 import collections
+import os
 import re
+import shutil
 import subprocess
 
 
@@ -24,6 +26,16 @@ class Picture:
     def box(self, left, top, width, height):
         return [(x, y, self.pixel(x, y)) for y in range(top, top + height)
                 for x in range(left, left + width)]
+
+
+def screen(session, keep_as=None):
+    """The session's screen now; with MARIVOX_PICTURES naming a folder, kept there as
+    `keep_as`."""
+    path = os.path.join(session.dir, "screen.png")
+    session.screenshot(path)
+    if keep_as and os.environ.get("MARIVOX_PICTURES"):
+        shutil.copy(path, os.path.join(os.environ["MARIVOX_PICTURES"], keep_as))
+    return Picture(path)
 
 
 def luminance(colour):

@@ -5,7 +5,6 @@ grown to the screen, zoomed to 400%, in high contrast, and so again after a rest
 measured on the accessible board's places and on the screenshot's pixels."""
 
 import os
-import shutil
 import subprocess
 import sys
 import unittest
@@ -33,14 +32,6 @@ class Display(GameTest):
                 return tuple(int(n) for n in fields[3].split())
         raise AssertionError("no %s %r" % (role, name))
 
-    def picture(self, keep_as=None):
-        """The screen now; with MARIVOX_PICTURES naming a folder, kept there as `keep_as`."""
-        path = os.path.join(self.session.dir, "screen.png")
-        self.session.screenshot(path)
-        if keep_as and os.environ.get("MARIVOX_PICTURES"):
-            shutil.copy(path, os.path.join(os.environ["MARIVOX_PICTURES"], keep_as))
-        return pixels.Picture(path)
-
     def said(self, keys, text):
         heard = len(self.session.texts())
         self.session.keys(*keys, window=self.window)
@@ -66,14 +57,14 @@ class Display(GameTest):
         self.assertTrue(harness.wait_until(
             lambda: self.place("table cell", "A 1, miss")[3] >= 80, 5),
             self.place("table cell", "A 1, miss"))
-        self.picture("maximised.png")
+        pixels.screen(self.session, "maximised.png")
         self.window_size(*normal_size)
 
         for percent in (125, 150, 175, 200, 250, 300, 400):
             self.said(["ctrl+plus"], "Zoom %d percent" % percent)
         x, y, width, height = self.place("table cell", "A 1, miss")
-        _, mark, tall = pixels.ink(self.picture("zoom.png"), x + 6, y + 6, width - 12,
-                                   height - 12)
+        zoomed = pixels.screen(self.session, "zoom.png")
+        _, mark, tall = pixels.ink(zoomed, x + 6, y + 6, width - 12, height - 12)
         self.assertGreaterEqual(tall, 48, "the mark's height at 400%")
 
         self.said(["ctrl+h"], "High contrast on")
@@ -87,10 +78,11 @@ class Display(GameTest):
         self.start()
         self.assertGreaterEqual(self.place("table cell", "A 1")[3], 3 * normal[3])
         x, y, width, height = self.place("table cell", "A 2")
-        self.assertEqual(self.picture().pixel(x + width // 2, y + height // 2), BLACK)
+        self.assertEqual(pixels.screen(self.session).pixel(x + width // 2, y + height // 2),
+                         BLACK)
 
     def check_high_contrast(self):
-        picture = self.picture("high-contrast.png")
+        picture = pixels.screen(self.session, "high-contrast.png")
         for name in ("A 1, miss", "B 2, miss"):  # a mark, and the mark under the cursor
             x, y, width, height = self.place("table cell", name)
             background, mark, _ = pixels.ink(picture, x + 8, y + 8, width - 16, height - 16)

@@ -5,7 +5,6 @@ screen: maximised, zoomed to 400% and in high contrast, and so again after a res
 cursor cell is found by its yellow frame in the screenshot, and measured there."""
 
 import os
-import shutil
 import sys
 import unittest
 
@@ -46,14 +45,6 @@ class Display(WindowsGame):
         row = [x for x in range(left, right) if picture.pixel(x, edges[0]) == YELLOW]
         return row[0], edges[0], row[-1] - row[0] + 1, edges[-1] - edges[0] + 1
 
-    def picture(self, keep_as=None):
-        """The screen now; with MARIVOX_PICTURES naming a folder, kept there as `keep_as`."""
-        path = os.path.join(self.session.dir, "screen.png")
-        self.session.screenshot(path)
-        if keep_as and os.environ.get("MARIVOX_PICTURES"):
-            shutil.copy(path, os.path.join(os.environ["MARIVOX_PICTURES"], keep_as))
-        return pixels.Picture(path)
-
     def test_maximised_zoomed_and_in_high_contrast_the_board_reads_large_and_clear(self):
         self.start()
         self.wait_for_text(PROMPT[-1])
@@ -62,13 +53,13 @@ class Display(WindowsGame):
         self.hear(["ctrl+h"], "High contrast on")
         self.wine(os.path.join(STANDINS, "readwindows.exe"), "maximize")
         harness.wait_until(lambda: False, 1)  # the board drawn afresh
-        self.assertGreaterEqual(self.cursor_cell(self.picture("windows-maximised.png"))[3], 80,
-                                "a maximised cell")
+        maximised = pixels.screen(self.session, "windows-maximised.png")
+        self.assertGreaterEqual(self.cursor_cell(maximised)[3], 80, "a maximised cell")
         self.wine(os.path.join(STANDINS, "readwindows.exe"), "restore")
         for percent in (125, 150, 175, 200, 250, 300, 400):
             self.hear(["ctrl+plus"], "Zoom %d percent" % percent)
         harness.wait_until(lambda: False, 1)
-        picture = self.picture("windows-high-contrast.png")
+        picture = pixels.screen(self.session, "windows-high-contrast.png")
         x, y, width, height = self.cursor_cell(picture)
         inside = (x + 8, y + 8, width - 16, height - 16)
         background, mark, tall = pixels.ink(picture, *inside)
@@ -94,7 +85,7 @@ class Display(WindowsGame):
         heard = len(self.said())
         self.start()
         self.wait_for_text(PROMPT[-1], after=heard)
-        self.assertGreaterEqual(self.cursor_cell(self.picture())[3], 3 * 17)
+        self.assertGreaterEqual(self.cursor_cell(pixels.screen(self.session))[3], 3 * 17)
 
 
 if __name__ == "__main__":
