@@ -20,14 +20,13 @@
 #include "adapters/qt/KeyMapping.h"
 #include "adapters/qt/QtApplication.h"
 #include "adapters/qt/QtMessageBoxes.h"
+#include "adapters/qt/QtSettingsStore.h"
 #include "adapters/qt/QtTimers.h"
-#include "fake/Fakes.h"
+#include "fake/FakeServices.h"
 #include "speech/SoundFiles.h"
 
-// Contracts: the same checks on each fake and on the adapter it stands for, so the fakes the
-// game's tests run on cannot drift from the real thing (the settings store, a map in its
-// fake, is read and written for real by the e2e scenarios). Then the sound adapters and the
-// game window on their own.
+// The contracts of Contracts.h on each fake and its Qt adapter, then the sound adapters and
+// the game window on their own.
 namespace marivox {
 namespace {
 
@@ -67,6 +66,21 @@ TEST(GridContract, Qt) {
                               grid.visualItemRect(grid.item(row - 1, col - 1)).center());
         },
         [&] { return grid.currentItem()->data(Qt::AccessibleTextRole).toString().toStdString(); });
+}
+
+TEST(SettingsContract, Fake) {
+    fake::Transcript t;
+    fake::FakeSettings settings(t);
+    checkSettings(settings, settings);
+}
+
+TEST(SettingsContract, Qt) {
+    const fs::path folder = fs::temp_directory_path() / "marivox-settings-contract";
+    fs::remove_all(folder);
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder.string()));
+    qt::QtSettingsStore store, later;
+    checkSettings(store, later);
+    fs::remove_all(folder);
 }
 
 std::string soundFile(Sound sound) {

@@ -16,6 +16,7 @@
 #include "ports/Forms.h"
 #include "ports/GridControl.h"
 #include "ports/OneShotTimer.h"
+#include "ports/SettingsStore.h"
 
 namespace marivox {
 
@@ -106,6 +107,16 @@ inline void checkGrid(GridControl& grid, const std::function<void(int, int)>& cl
     EXPECT_THROW(grid.textMatrix(10, 1), Failure);
     EXPECT_THROW(grid.setTextMatrix(1, 10, "M"), Failure);
     EXPECT_EQ(listener.heard, (Heard{"move", "move", "move", "move", "move", "click"}));
+}
+
+// A value saved is read back by `later` (the next run's store), blanks and all, apart from the
+// same key of another section; a key never saved reads as the default.
+inline void checkSettings(SettingsStore& store, SettingsStore& later) {
+    store.SaveSetting("MarivoxContract", "StartUp", "Reader", " WE ");
+    store.SaveSetting("MarivoxContract", "Display", "Reader", "1");
+    EXPECT_EQ(later.GetSetting("MarivoxContract", "StartUp", "Reader", "None"), " WE ");
+    EXPECT_EQ(later.GetSetting("MarivoxContract", "Display", "Reader", "None"), "1");
+    EXPECT_EQ(later.GetSetting("MarivoxContract", "StartUp", "Zoom", "100"), "100");
 }
 
 }  // namespace marivox

@@ -7,6 +7,7 @@
 #include "adapters/Contracts.h"
 #include "adapters/windows/WinDesktop.h"
 #include "adapters/windows/WinGrid.h"
+#include "adapters/windows/WinSettingsStore.h"
 #include "adapters/windows/WinTimers.h"
 #include "adapters/windows/WindowsText.h"
 
@@ -52,6 +53,12 @@ TEST(GridContract, Windows) {
             return windows::utf8Text(name);
         });
     DestroyWindow(frame);
+}
+
+TEST(SettingsContract, Windows) {
+    windows::WinSettingsStore store, later;
+    checkSettings(store, later);
+    RegDeleteTreeW(HKEY_CURRENT_USER, L"Software\\MarivoxContract");
 }
 
 }  // namespace
