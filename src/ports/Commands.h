@@ -127,12 +127,12 @@ constexpr void forEach(Visit&& visit) {
     }
 }
 
-// The command a key gives in the player's turn, or none.
-inline const Command* playersTurnCommand(std::int16_t keyCode, std::int16_t shift) {
+// The command of that kind a key gives, or none.
+inline const Command* commandFor(KeyKind kind, std::int16_t keyCode, std::int16_t shift) {
     const Command* found = nullptr;
     forEach([&](const Command& command) {
         for (const Key& key : command.keys) {
-            if (found == nullptr && command.kind == PlayersTurn && key.matches(keyCode, shift)) {
+            if (found == nullptr && command.kind == kind && key.matches(keyCode, shift)) {
                 found = &command;
             }
         }

@@ -24,7 +24,8 @@ void GameScreen::Form_KeyDown(std::int16_t keyCode, std::int16_t shift) {
             tmrTimer2_->switchOff();
         }
         typeCellName(keyCode, shift);
-        const commands::Command* command = commands::playersTurnCommand(keyCode, shift);
+        const commands::Command* command =
+            commands::commandFor(commands::KeyKind::PlayersTurn, keyCode, shift);
         if (command != &commands::kRepeat) {
             services_.spoken.restartRepeats();
         }

@@ -20,8 +20,6 @@
 
 namespace marivox {
 
-using namespace std::chrono_literals;
-
 // `hold` lets time pass with the event loop held, as a blocking call does; `deliver` lets
 // the loop run what has fallen due. A timer switched on while it counts keeps its time, and
 // ticks once for each switching on, never after being switched off.
@@ -29,7 +27,8 @@ inline void checkTimers(TimerFactory& timers,
                         const std::function<void(std::chrono::milliseconds)>& hold,
                         const std::function<void()>& deliver) {
     int ticks = 0;
-    const auto timer = timers.createTimer("tmrTimer1", 300ms, [&] { ++ticks; });
+    const auto timer =
+        timers.createTimer("tmrTimer1", std::chrono::milliseconds(300), [&] { ++ticks; });
     std::string seen;
     for (const std::string step : {"on", "=", "150", "on", "250", "=", "700", "=", "off", "on",
                                    "400", "=", "off", "on", "off", "400", "="}) {

@@ -212,19 +212,12 @@ struct FakeWindow : GameWindow, Recorder {
                  (highContrast ? "high contrast" : "normal contrast"));
     }
     bool desktopHighContrast() const override { return desktopAsksHighContrast; }
-    // A key as the player presses it: the window hears it first, then the board takes an
-    // arrow, or Home, End, Page Up and Page Down to its edges as both desktops' boards do; F1
-    // also opens the help, as the platform's help key.
-    // As a desktop does: a shortcut runs its command and goes no further.
+    // A key as the player presses it: a shortcut runs its command and goes no further, as on
+    // a desktop; any other key the window hears first, then the board takes an arrow, or Home,
+    // End, Page Up and Page Down to its edges as both desktops' boards do; F1 also opens the
+    // help, as the platform's help key.
     void press(std::int16_t key, std::int16_t shift = 0) {
-        const commands::Command* shortcut = nullptr;
-        commands::forEach([&](const commands::Command& command) {
-            for (const commands::Key& k : command.keys) {
-                if (command.kind == commands::KeyKind::Shortcut && k.matches(key, shift)) {
-                    shortcut = &command;
-                }
-            }
-        });
+        const auto* shortcut = commands::commandFor(commands::KeyKind::Shortcut, key, shift);
         if (shortcut != nullptr) {
             return (events->*shortcut->handler)();
         }

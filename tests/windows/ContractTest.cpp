@@ -17,7 +17,7 @@ namespace {
 
 // Lets the thread's own message loop run what has fallen due.
 void deliver() {
-    const auto until = std::chrono::steady_clock::now() + 20ms;
+    const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(20);
     for (MSG message; std::chrono::steady_clock::now() < until; Sleep(1)) {
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
             DispatchMessageW(&message);
