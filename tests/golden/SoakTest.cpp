@@ -7,7 +7,7 @@
 #include <random>
 
 #include "fake/Rig.h"
-#include "model/Consistency.h"
+#include "golden/Consistency.h"
 #include "model/Ships.h"
 #include "support/Titles.h"
 

@@ -10,19 +10,9 @@
 #include <string>
 
 #include "model/GameState.h"
+#include "model/Ships.h"
 
 namespace marivox {
-
-// The ship a code belongs to, intact or hit, or -1.
-inline constexpr auto kShipOfCode = [] {
-    std::array<int, CellCode::LastHit + 1> ships{};
-    ships.fill(-1);
-    for (const ShipInfo& ship : kShips) {
-        ships[static_cast<std::size_t>(ship.intactCode)] = static_cast<int>(ship.type);
-        ships[static_cast<std::size_t>(ship.hitCode)] = static_cast<int>(ship.type);
-    }
-    return ships;
-}();
 
 // One ocean against the tallies of the side that fires at it.
 inline std::string oceanProblem(const Ocean& ocean, const PerShip<std::int16_t>& hits,
@@ -36,13 +26,14 @@ inline std::string oceanProblem(const Ocean& ocean, const PerShip<std::int16_t>&
         for (int col = 0; col < Ocean::kExtent; ++col) {
             const std::int16_t code = ocean(row, col);
             const bool water = code == CellCode::FiredWater || code == CellCode::OpenWater;
-            const int ship = code >= 0 && code <= CellCode::LastHit ? kShipOfCode[code] : -1;
-            if ((!water && ship < 0) || (code != 0 && !isPlayingCell(row, col))) {
+            const auto ship =
+                shipWithIntactCode(code) ? shipWithIntactCode(code) : shipWithHitCode(code);
+            if ((!water && !ship) || (code != 0 && !isPlayingCell(row, col))) {
                 return side + " ocean holds code " + std::to_string(code) + " at " +
                        std::to_string(row) + "," + std::to_string(col);
             }
-            if (ship >= 0) {
-                Cells& c = ships[static_cast<std::size_t>(ship)];
+            if (ship) {
+                Cells& c = ships[static_cast<std::size_t>(*ship)];
                 c = {c.count + 1,           c.hits + (code >= CellCode::FirstHit),
                      std::min(c.top, row),  std::max(c.bottom, row),
                      std::min(c.left, col), std::max(c.right, col)};
