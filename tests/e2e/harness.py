@@ -43,7 +43,6 @@ class Session(Hearing):
         self.game = None
         self.recording = bytearray()
         self.arrivals = []  # (bytes recorded, when they had all arrived)
-        self._recorder = None
         self.record_latency_ms = 20  # the null sink mixes up to this far ahead of real time
         self.started_at = time.time()  # until the game starts, the session's start
 
@@ -117,9 +116,8 @@ class Session(Hearing):
         out = subprocess.run([os.path.join(HERE, "speechd", "start-private-speechd"), workdir],
                              capture_output=True, text=True, check=True, env=self._base_env())
         values = dict(line.split("=", 1) for line in out.stdout.split())
-        pid = int(values["PID"])
-        self.speech_pid = pid
-        self.processes.append(("speech-dispatcher", _Pid(pid)))
+        self.speech_pid = int(values["PID"])
+        self.processes.append(("speech-dispatcher", _Pid(self.speech_pid)))
         self.env["SPEECHD_ADDRESS"] = values["SPEECHD_ADDRESS"]
         self.spoken_log = os.path.join(workdir, "spoken.log")
 
@@ -131,11 +129,10 @@ class Session(Hearing):
         if subprocess.run(["pgrep", "-u", str(os.getuid()), "-x", "orca"],
                           stdout=subprocess.DEVNULL).returncode == 0:
             raise unittest.SkipTest("an Orca of this user is running; it is left alone")
-        log = open(os.path.join(self.dir, "orca.log"), "w")
         self.orca_debug = os.path.join(self.dir, "orca-debug.log")
-        self.orca = self._spawn("orca", ["orca", "--debug-file=" + self.orca_debug],
-                                env=self._base_env(), stdout=log, stderr=subprocess.STDOUT)
-        log.close()
+        with open(os.path.join(self.dir, "orca.log"), "w") as log:
+            self.orca = self._spawn("orca", ["orca", "--debug-file=" + self.orca_debug],
+                                    env=self._base_env(), stdout=log, stderr=subprocess.STDOUT)
         self.wait_for_text("Screen reader on.", timeout=30)
 
     def _write_settings(self):
@@ -160,8 +157,6 @@ class Session(Hearing):
             _stop(process)
         self.processes.clear()
         self._stop_stragglers()
-        if getattr(self, "game_log", None) is not None:
-            self.game_log.close()
         shutil.rmtree(self.dir, ignore_errors=True)
 
     def _stop_stragglers(self):
@@ -186,12 +181,9 @@ class Session(Hearing):
         env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         env["QT_ACCESSIBILITY"] = "1"
         self.started_at = time.time()
-        if getattr(self, "game_log", None) is not None:
-            self.game_log.close()
-        self.game_log = open(os.path.join(self.dir, "game.log"), "a")
-        self.game = self._spawn("marivox", self.launcher + [self.program], env=env,
-                                stdout=self.game_log, stderr=subprocess.STDOUT)
-        return self.game
+        with open(os.path.join(self.dir, "game.log"), "a") as log:
+            self.game = self._spawn("marivox", self.launcher + [self.program], env=env,
+                                    stdout=log, stderr=subprocess.STDOUT)
 
     def window_id(self, name="Marivox", timeout=10):
         """The newest visible window so named; a box is taken only when no main window is.
@@ -264,7 +256,6 @@ class Session(Hearing):
             with open(os.path.join(folder, name), "r+b") as cut:
                 cut.truncate(30)
         self.program = os.path.join(folder, "marivox")
-        return folder
 
     def close_window(self, window):
         """The window's close button, as a window manager would press it."""
@@ -341,11 +332,9 @@ class Session(Hearing):
         """What assistive technology is told has the keyboard focus, as role|name lines."""
         return [line.split("|", 1)[1] for line in self.accessible_tree("--focused")]
 
-    def screenshot(self, path, window=None):
+    def screenshot(self, path):
         dump = os.path.join(self.dir, "screen.xwd")
-        target = ["-id", window] if window else ["-root"]
-        subprocess.run(["xwd", *target, "-silent", "-out", dump], env=self._base_env(),
-                       check=True)
+        subprocess.run(["xwd", "-root", "-silent", "-out", dump], env=self._base_env(), check=True)
         subprocess.run(["convert", dump, path], check=True)
 
 
@@ -371,18 +360,13 @@ def _stop(process):
     for stream in (getattr(process, "stdout", None), getattr(process, "stderr", None)):
         if stream is not None:
             stream.close()
-    if process.poll() is not None:
-        return
-    try:
-        os.killpg(process.pid, signal.SIGTERM) if isinstance(process, subprocess.Popen) \
-            else os.kill(process.pid, signal.SIGTERM)
-    except ProcessLookupError:
-        return
-    try:
-        process.wait(timeout=3)
-    except subprocess.TimeoutExpired:
+    # What we started leads a process group of its own; a _Pid is one process.
+    signal_it = os.killpg if isinstance(process, subprocess.Popen) else os.kill
+    for signum in (signal.SIGTERM, signal.SIGKILL):
+        if process.poll() is not None:
+            return
         try:
-            os.killpg(process.pid, signal.SIGKILL) if isinstance(process, subprocess.Popen) \
-                else os.kill(process.pid, signal.SIGKILL)
-        except ProcessLookupError:
-            pass
+            signal_it(process.pid, signum)
+            process.wait(timeout=3)
+        except (ProcessLookupError, subprocess.TimeoutExpired):
+            continue
