@@ -17,7 +17,7 @@ import tempfile
 import time
 import unittest
 
-from Xlib import X, display
+from Xlib import X, display, protocol
 
 from hearing import SAMPLE_RATE, SOUNDS, STEP, Hearing, SessionError, wait_until  # noqa: F401
 
@@ -258,9 +258,17 @@ class Session(Hearing):
         self.program = os.path.join(folder, "marivox")
 
     def close_window(self, window):
-        """The window's close button, as a window manager would press it."""
-        subprocess.run(["/usr/bin/python3", os.path.join(HERE, "close_window.py"), window],
-                       env=self._base_env(), check=True)
+        """The window's close button, as a window manager would press it (WM_DELETE_WINDOW)."""
+        screen = display.Display(self.env["DISPLAY"])
+        target = screen.create_resource_object("window", int(window, 0))
+        event = protocol.event.ClientMessage(
+            window=target, client_type=screen.intern_atom("WM_PROTOCOLS"),
+            data=(32, [screen.intern_atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0]))
+        target.send_event(event, event_mask=X.NoEventMask)
+        # A round trip, not a flush: the X server drops the unread requests of a client that has
+        # hung up, so leaving right after a flush lost about one close in fifteen under load.
+        screen.sync()
+        screen.close()
 
     def state(self):
         """For a failure's message: whether the game still runs, and the end of its output."""
