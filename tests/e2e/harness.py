@@ -53,7 +53,7 @@ class Session(Hearing):
             self._start_x()
             self._start_dbus()
             if self.with_speech:
-                self._start_speech()
+                self.start_speech()
             if self.with_audio:
                 self._start_audio()
             self._write_settings()
@@ -110,7 +110,9 @@ class Session(Hearing):
         self._spawn("at-spi", ["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"],
                     env=self._base_env(), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
-    def _start_speech(self):
+    def start_speech(self):
+        """The session's speech service; started again, it listens on the same address and
+        logs what it hears afresh."""
         workdir = os.path.join(self.dir, "speechd")
         os.makedirs(workdir, exist_ok=True)
         out = subprocess.run([os.path.join(HERE, "speechd", "start-private-speechd"), workdir],
@@ -235,10 +237,6 @@ class Session(Hearing):
     def kill_speech(self):
         os.kill(self.speech_pid, signal.SIGKILL)
         wait_until(lambda: _Pid(self.speech_pid).poll() is not None, 5)
-
-    def restart_speech(self):
-        """A new speech service on the same address; what it hears is logged afresh."""
-        self._start_speech()
 
     def settings_path(self):
         return os.path.join(self.dir, "config", "Marivox", "Marivox.conf")

@@ -176,7 +176,7 @@ class Services(Hostile):
         self.assertTrue(harness.wait_until(self.session.alerts, 10))
         reports = self.session.answer_alerts()
         self.assertTrue(reports and all("speech service" in r for r in reports), reports)
-        self.session.restart_speech()
+        self.session.start_speech()
         self.session.keys("F2", window=window)
         self.session.wait_for_text(" You have sank  0 of my ships.  ")
         self.assertEqual(self.session.alerts(), [])
