@@ -28,7 +28,7 @@ BUILD = os.environ.get("MARIVOX_BUILD_DIR", os.path.join(SOURCE, "build"))
 
 class Session(Hearing):
     def __init__(self, stored_reader="JFW", speech=True, audio=True, program=None, orca=False,
-                 launcher=(), orca_settings=None, screen="1024x768x24"):
+                 launcher=(), orca_settings=None, screen="1024x768x24", seed=None):
         self.stored_reader = stored_reader
         self.orca_settings = orca_settings  # Orca's general settings, written before it starts
         self.screen = screen
@@ -39,7 +39,7 @@ class Session(Hearing):
         self.launcher = list(launcher)  # what runs the program, if it does not run alone
         self.dir = tempfile.mkdtemp(prefix="marivox-e2e-")
         self.processes = []  # (name, Popen), stopped in reverse order
-        self.env = {}
+        self.env = {"MARIVOX_SEED": seed} if seed else {}  # the same fleets every run
         self.game = None
         self.recording = bytearray()
         self.arrivals = []  # (bytes recorded, when they had all arrived)

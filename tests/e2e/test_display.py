@@ -18,11 +18,7 @@ BLACK, YELLOW = (0, 0, 0), (255, 255, 0)
 
 
 class Display(GameTest):
-    session_options = {"screen": "1920x1080x24"}
-
-    def setUp(self):
-        super().setUp()
-        self.session.env["MARIVOX_SEED"] = "5"
+    session_options = {"screen": "1920x1080x24", "seed": "5"}
 
     def place(self, role, name):
         """Where an object of the board stands on the screen: x, y, width, height."""

@@ -38,11 +38,12 @@ class WindowsGame(unittest.TestCase):
     stored_reader = "JFW"
     with_standins = True
     screen = "1024x768x24"
+    seed = None
 
     def setUp(self):
         self.session = harness.Session(stored_reader=None, speech=False, launcher=["wine"],
                                        program=os.path.join(BUILD, "marivox.exe"),
-                                       screen=self.screen)
+                                       screen=self.screen, seed=self.seed)
         self.log = os.path.join(self.session.dir, "standin.log")
         self.session.env.update({
             "WINEPREFIX": os.environ["WINEPREFIX"], "WINEDEBUG": "-all",
