@@ -46,9 +46,22 @@ class GameTest(unittest.TestCase):
         self.window = self.session.window_id()
         self.session.wait_for_text(PROMPT[-1])
 
-    def settings_text(self):
-        with open(self.session.settings_path()) as conf:
+    def settings_bytes(self):
+        with open(self.session.settings_path(), "rb") as conf:
             return conf.read()
+
+    def exit_game(self, window):
+        """Closes the window as its close button does and answers Yes: the game ends well."""
+        self.session.close_window(window)
+        if not harness.wait_until(lambda: any("exit the program" in text
+                                              for text in self.session.alerts()), 10):
+            self.fail("no exit question after closing window %s; heard: %r; %s"
+                      % (window, self.session.texts(), self.session.state()))
+        self.session.keys("Return")
+        if not self.session.game_ended(15):
+            self.fail("the game did not end; boxes open: %r, heard: %r"
+                      % (self.session.alerts(), self.session.texts()))
+        self.assertEqual(self.session.game.returncode, 0)
 
 
 class StartUp(GameTest):
@@ -68,7 +81,7 @@ class StartUp(GameTest):
         self.session.keys("Return", window=dialog)
         self.session.wait_for_text(PROMPT[-1])
         self.assertEqual(self.session.texts()[:3], PROMPT)
-        self.assertRegex(self.settings_text(), r"(?m)^Reader=JFW$")
+        self.assertRegex(self.settings_bytes(), rb"(?m)^Reader=JFW$")
         harness.wait_until(lambda: "sonar" in self.session.sounds_heard(), 5)
         self.assertEqual(self.session.sounds_heard()[:2], ["begin", "sonar"])
 
@@ -213,12 +226,7 @@ class NoServices(GameTest):
         self.session.keys("Down", window=window)
         self.assertEqual([line.rsplit(";", 1)[-1] for line in self.session.answer_alerts()],
                          [" StopSpeech()", " StopSpeech()", " StopSpeech()", " Speak()"])
-        self.session.close_window(window)
-        self.assertTrue(harness.wait_until(
-            lambda: any("exit the program" in line for line in self.session.alerts()), 10))
-        self.session.keys("Return")
-        self.assertTrue(self.session.game_ended(15))
-        self.assertEqual(self.session.game.returncode, 0)
+        self.exit_game(window)
 
 
 class SoundsThenWords(GameTest):
