@@ -204,13 +204,13 @@ class Menus(GameTest):
 class NoServices(GameTest):
     """No speech service and no sound server: the game says so in a box and goes on."""
 
+    session_options = {"speech": False, "audio": False}
+
     def setUp(self):
-        self.session = harness.Session(stored_reader="JFW", speech=False, audio=False)
+        super().setUp()
         self.session.env["SPEECHD_ADDRESS"] = "unix_socket:" + os.path.join(
             self.session.dir, "no-speech.sock")
         self.session.env["PULSE_SERVER"] = "unix:" + os.path.join(self.session.dir, "no-pulse")
-        self.session.__enter__()
-        self.addCleanup(self.session.close)
 
     def test_starts_reports_the_speech_failure_plays_and_exits(self):
         self.session.launch()
