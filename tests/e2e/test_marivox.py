@@ -129,11 +129,9 @@ class TurnCycle(GameTest):
         else:
             self.fail("ten hits in a row: the fleet cannot be laid that way")
         reminder = "It is your turn and you are located at " + cell
-        announcement_time = harness.wait_until(
-            lambda: next((t for t, s in self.session.spoken()
+        announcement_time, announcement = harness.wait_until(
+            lambda: next(((t, s) for t, s in self.session.spoken()
                           if t > shot_time and TARGETING.match(s)), None), 10)
-        announcement = next(s for t, s in self.session.spoken()
-                            if t > shot_time and TARGETING.match(s))
         target = TARGETING.match(announcement).group(1)
         self.assertGreaterEqual(announcement_time - shot_time, 1.9)
 
