@@ -24,6 +24,8 @@ from hearing import SAMPLE_RATE, SOUNDS, STEP, Hearing, SessionError, wait_until
 HERE = os.path.dirname(os.path.abspath(__file__))
 SOURCE = os.path.dirname(os.path.dirname(HERE))
 BUILD = os.environ.get("MARIVOX_BUILD_DIR", os.path.join(SOURCE, "build"))
+# What the program folder holds, installed or built.
+PROGRAM_FILES = ["marivox", "marivox-help", "marvox.hlp"] + [s + ".wav" for s in SOUNDS]
 
 
 class Session(Hearing):
@@ -246,8 +248,7 @@ class Session(Hearing):
         source = os.path.dirname(self.program)
         folder = os.path.join(self.dir, "program")
         os.makedirs(folder)
-        names = ["marivox", "marivox-help", "marvox.hlp"] + [s + ".wav" for s in SOUNDS]
-        for name in names:
+        for name in PROGRAM_FILES:
             if name not in leave_out:
                 shutil.copy2(os.path.join(source, name), folder)
         for name in damage:
