@@ -55,9 +55,7 @@ class Hearing:
             "--rate=%d" % SAMPLE_RATE, "--channels=1",
             "--latency-msec=%d" % self.record_latency_ms,
         ], env=self._base_env(), stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-        self._recorder = threading.Thread(target=self._record, args=(recorder.stdout,),
-                                          daemon=True)
-        self._recorder.start()
+        threading.Thread(target=self._record, args=(recorder.stdout,), daemon=True).start()
 
     def _record(self, stream):
         # Silence is kept, so a sample's place in the recording tells when it was heard.
@@ -138,7 +136,6 @@ class Hearing:
 
     def wait_for_count(self, count, timeout=15):
         wait_until(lambda: len(self.spoken()) >= count, timeout)
-        return self.texts()
 
     def sounds_heard(self):
         """Our sound effects found in the recording, in the order they were played."""
@@ -166,10 +163,8 @@ class Hearing:
         return sorted(found)
 
     def _recording_began(self):
-        arrivals = list(self.arrivals)
-        if not arrivals:
-            return None
-        return min(when - size / 2 / SAMPLE_RATE for size, when in arrivals)
+        return min((when - size / 2 / SAMPLE_RATE for size, when in list(self.arrivals)),
+                   default=None)
 
     def sound_times_by_shape(self, threshold=0.97):
         """As sound_times, for a player whose samples are converted on their way (Wine 10's

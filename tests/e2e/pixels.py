@@ -23,10 +23,6 @@ class Picture:
         at = 3 * (y * self.width + x)
         return tuple(self.data[at: at + 3])
 
-    def box(self, left, top, width, height):
-        return [(x, y, self.pixel(x, y)) for y in range(top, top + height)
-                for x in range(left, left + width)]
-
 
 def screen(session, keep_as=None):
     """The session's screen now; with MARIVOX_PICTURES naming a folder, kept there as
@@ -54,7 +50,8 @@ def contrast(one, other):
 def ink(picture, left, top, width, height):
     """In a box: its background (its commonest colour), the commonest colour far from it
     (the ink), and the height of the ink's rows."""
-    pixels = picture.box(left, top, width, height)
+    pixels = [(x, y, picture.pixel(x, y)) for y in range(top, top + height)
+              for x in range(left, left + width)]
     background = collections.Counter(c for _, _, c in pixels).most_common(1)[0][0]
     inked = [(y, c) for _, y, c in pixels if sum(abs(a - b) for a, b in zip(c, background)) > 150]
     if not inked:

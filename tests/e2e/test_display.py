@@ -18,11 +18,7 @@ BLACK, YELLOW = (0, 0, 0), (255, 255, 0)
 
 
 class Display(GameTest):
-    session_options = {"screen": "1920x1080x24"}
-
-    def setUp(self):
-        super().setUp()
-        self.session.env["MARIVOX_SEED"] = "5"
+    session_options = {"screen": "1920x1080x24", "seed": "5"}
 
     def place(self, role, name):
         """Where an object of the board stands on the screen: x, y, width, height."""
@@ -71,10 +67,7 @@ class Display(GameTest):
         self.check_high_contrast()
 
         # Both outlive the program.
-        self.session.close_window(self.window)
-        self.session.wait_for_alert("There is a game in progress.")
-        self.session.keys("Return")
-        self.assertTrue(self.session.game_ended(10), self.session.state())
+        self.exit_game(self.window)
         self.start()
         self.assertGreaterEqual(self.place("table cell", "A 1")[3], 3 * normal[3])
         x, y, width, height = self.place("table cell", "A 2")

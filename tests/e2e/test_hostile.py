@@ -30,29 +30,11 @@ class Hostile(test_marivox.GameTest):
             conf.write(content)
         return path
 
-    def settings_bytes(self):
-        with open(self.session.settings_path(), "rb") as conf:
-            return conf.read()
-
     def wait_for_the_game_to_begin(self):
         """A game begins with its two sounds, after any report of the start-up and about a
         second after the opening prompt would have been spoken."""
         if not harness.wait_until(lambda: "sonar" in self.session.sounds_heard(), 20):
             self.fail("no game began; boxes open: %r" % self.session.alerts())
-
-    def exit_question_shown(self):
-        return any("exit the program" in text for text in self.session.alerts())
-
-    def exit_game(self, window):
-        self.session.close_window(window)
-        if not harness.wait_until(self.exit_question_shown, 10):
-            self.fail("no exit question after closing window %s; heard: %r; %s"
-                      % (window, self.session.texts(), self.session.state()))
-        self.session.keys("Return")
-        if not self.session.game_ended(15):
-            self.fail("the game did not end; boxes open: %r, heard: %r"
-                      % (self.session.alerts(), self.session.texts()))
-        self.assertEqual(self.session.game.returncode, 0)
 
 
 class Settings(Hostile):
@@ -139,60 +121,52 @@ class Files(Hostile):
 
     def test_a_missing_help_document_is_said_in_the_help_window(self):
         self.session.program_copy(leave_out=("marvox.hlp",))
-        self.session.launch()
-        window = self.session.window_id()
-        self.session.wait_for_text(PROMPT[-1])
-        self.session.keys("F1", window=window)
+        self.start()
+        self.session.keys("F1", window=self.window)
         self.session.window_id("Marivox Help", timeout=10)
         tree = "\n".join(self.session.accessible_tree())
         self.assertIn("text contents|The Marivox help could not be opened.", tree)
-        self.session.keys("F2", window=window)
+        self.session.keys("F2", window=self.window)
         self.session.wait_for_text(" You have sank  0 of my ships.  ")
 
     def test_a_help_viewer_that_cannot_start_is_reported_and_play_goes_on(self):
         self.session.program_copy(leave_out=("marivox-help",))
-        self.session.launch()
-        window = self.session.window_id()
-        self.session.wait_for_text(PROMPT[-1])
-        self.session.keys("F1", window=window)
+        self.start()
+        self.session.keys("F1", window=self.window)
         self.assertTrue(harness.wait_until(self.session.alerts, 10))
         reports = self.session.answer_alerts()
         self.assertEqual(len(reports), 1, reports)
         self.assertRegex(reports[0], r"^The help viewer .*marivox-help could not be started"
                                      r" in RunHelp\(\)$")
         heard = len(self.session.texts())
-        self.session.keys("F2", window=window)
+        self.session.keys("F2", window=self.window)
         self.session.wait_for_text(" You have sank  0 of my ships.  ", after=heard)
-        self.exit_game(window)
+        self.exit_game(self.window)
 
 
 class Services(Hostile):
     def test_speech_service_dying_mid_game_is_reported_once_per_word_then_found_again(self):
-        self.session.launch()
-        window = self.session.window_id()
-        self.session.wait_for_text(PROMPT[-1])
+        self.start()
         self.session.kill_speech()
-        self.session.keys("F2", window=window)
+        self.session.keys("F2", window=self.window)
         self.assertTrue(harness.wait_until(self.session.alerts, 10))
         reports = self.session.answer_alerts()
         self.assertTrue(reports and all("speech service" in r for r in reports), reports)
-        self.session.restart_speech()
-        self.session.keys("F2", window=window)
+        self.session.start_speech()
+        self.session.keys("F2", window=self.window)
         self.session.wait_for_text(" You have sank  0 of my ships.  ")
         self.assertEqual(self.session.alerts(), [])
-        self.exit_game(window)
+        self.exit_game(self.window)
 
     def test_sound_server_dying_mid_sound_leaves_the_game_playing(self):
-        self.session.launch()
-        window = self.session.window_id()
-        self.session.wait_for_text(PROMPT[-1])
+        self.start()
         self.session.kill_audio()  # the sonar is still playing
-        self.session.keys("Return", window=window)
+        self.session.keys("Return", window=self.window)
         harness.wait_until(lambda: any(t.startswith("A  1 was") or t.startswith(" You sank")
                                        for t in self.session.texts()), 10)
         self.session.wait_for_text("It is your turn and you are located at A  1", timeout=15)
         self.assertEqual(self.session.alerts(), [])
-        self.exit_game(window)
+        self.exit_game(self.window)
 
 
 if __name__ == "__main__":

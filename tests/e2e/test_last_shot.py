@@ -28,10 +28,7 @@ MARKED = re.compile(r"^\d+\|table cell\|([A-I]) ([1-9]), (miss|hit (.+))$")
 
 class LastShot(GameTest):
     block = 0.02  # the recording places a sound's start up to one block late
-
-    def setUp(self):
-        super().setUp()
-        self.session.env["MARIVOX_SEED"] = "20261125"
+    session_options = {"seed": "20261125"}
 
     def board(self):
         """The cells fired at, and the cells hit of each ship, as the board tells them."""

@@ -46,9 +46,22 @@ class GameTest(unittest.TestCase):
         self.window = self.session.window_id()
         self.session.wait_for_text(PROMPT[-1])
 
-    def settings_text(self):
-        with open(self.session.settings_path()) as conf:
+    def settings_bytes(self):
+        with open(self.session.settings_path(), "rb") as conf:
             return conf.read()
+
+    def exit_game(self, window):
+        """Closes the window as its close button does and answers Yes: the game ends well."""
+        self.session.close_window(window)
+        if not harness.wait_until(lambda: any("exit the program" in text
+                                              for text in self.session.alerts()), 10):
+            self.fail("no exit question after closing window %s; heard: %r; %s"
+                      % (window, self.session.texts(), self.session.state()))
+        self.session.keys("Return")
+        if not self.session.game_ended(15):
+            self.fail("the game did not end; boxes open: %r, heard: %r"
+                      % (self.session.alerts(), self.session.texts()))
+        self.assertEqual(self.session.game.returncode, 0)
 
 
 class StartUp(GameTest):
@@ -68,7 +81,7 @@ class StartUp(GameTest):
         self.session.keys("Return", window=dialog)
         self.session.wait_for_text(PROMPT[-1])
         self.assertEqual(self.session.texts()[:3], PROMPT)
-        self.assertRegex(self.settings_text(), r"(?m)^Reader=JFW$")
+        self.assertRegex(self.settings_bytes(), rb"(?m)^Reader=JFW$")
         harness.wait_until(lambda: "sonar" in self.session.sounds_heard(), 5)
         self.assertEqual(self.session.sounds_heard()[:2], ["begin", "sonar"])
 
@@ -116,11 +129,9 @@ class TurnCycle(GameTest):
         else:
             self.fail("ten hits in a row: the fleet cannot be laid that way")
         reminder = "It is your turn and you are located at " + cell
-        announcement_time = harness.wait_until(
-            lambda: next((t for t, s in self.session.spoken()
+        announcement_time, announcement = harness.wait_until(
+            lambda: next(((t, s) for t, s in self.session.spoken()
                           if t > shot_time and TARGETING.match(s)), None), 10)
-        announcement = next(s for t, s in self.session.spoken()
-                            if t > shot_time and TARGETING.match(s))
         target = TARGETING.match(announcement).group(1)
         self.assertGreaterEqual(announcement_time - shot_time, 1.9)
 
@@ -191,13 +202,13 @@ class Menus(GameTest):
 class NoServices(GameTest):
     """No speech service and no sound server: the game says so in a box and goes on."""
 
+    session_options = {"speech": False, "audio": False}
+
     def setUp(self):
-        self.session = harness.Session(stored_reader="JFW", speech=False, audio=False)
+        super().setUp()
         self.session.env["SPEECHD_ADDRESS"] = "unix_socket:" + os.path.join(
             self.session.dir, "no-speech.sock")
         self.session.env["PULSE_SERVER"] = "unix:" + os.path.join(self.session.dir, "no-pulse")
-        self.session.__enter__()
-        self.addCleanup(self.session.close)
 
     def test_starts_reports_the_speech_failure_plays_and_exits(self):
         self.session.launch()
@@ -213,12 +224,7 @@ class NoServices(GameTest):
         self.session.keys("Down", window=window)
         self.assertEqual([line.rsplit(";", 1)[-1] for line in self.session.answer_alerts()],
                          [" StopSpeech()", " StopSpeech()", " StopSpeech()", " Speak()"])
-        self.session.close_window(window)
-        self.assertTrue(harness.wait_until(
-            lambda: any("exit the program" in line for line in self.session.alerts()), 10))
-        self.session.keys("Return")
-        self.assertTrue(self.session.game_ended(15))
-        self.assertEqual(self.session.game.returncode, 0)
+        self.exit_game(window)
 
 
 class SoundsThenWords(GameTest):

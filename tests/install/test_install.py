@@ -17,7 +17,6 @@ import harness  # noqa: E402
 from test_marivox import PROMPT  # noqa: E402
 
 APP_ID = "org.marivox.Marivox"
-SOUNDS = [name + ".wav" for name in harness.SOUNDS]
 
 
 def run(*argv, **kwargs):
@@ -42,8 +41,7 @@ class InstalledTree(unittest.TestCase):
 
     def test_the_program_folder_holds_everything_and_the_launcher_links_to_it(self):
         folder = self.path("lib", "marivox")
-        self.assertEqual(sorted(os.listdir(folder)),
-                         sorted(["marivox", "marivox-help", "marvox.hlp"] + SOUNDS))
+        self.assertEqual(sorted(os.listdir(folder)), sorted(harness.PROGRAM_FILES))
         launcher = self.path("bin", "marivox")
         self.assertTrue(os.path.islink(launcher))
         self.assertFalse(os.path.isabs(os.readlink(launcher)), "the tree must stay movable")
@@ -100,7 +98,7 @@ class DebianPackage(unittest.TestCase):
 
             listing = run("dpkg-deb", "--contents", deb).stdout
             self.assertIn("./usr/games/marivox -> ../lib/marivox/marivox", listing)
-            for name in ["marivox", "marivox-help", "marvox.hlp"] + SOUNDS:
+            for name in harness.PROGRAM_FILES:
                 self.assertIn("./usr/lib/marivox/" + name + "\n", listing)
             self.assertIn("./usr/share/applications/%s.desktop" % APP_ID, listing)
             self.assertIn("./usr/share/metainfo/%s.metainfo.xml" % APP_ID, listing)

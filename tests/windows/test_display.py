@@ -20,10 +20,7 @@ BLACK, WHITE, YELLOW = (0, 0, 0), (255, 255, 255), (255, 255, 0)
 
 class Display(WindowsGame):
     screen = "1920x1080x24"
-
-    def setUp(self):
-        super().setUp()
-        self.session.env["MARIVOX_SEED"] = "5"
+    seed = "5"
 
     def hear(self, keys, text):
         heard = len(self.said())

@@ -38,15 +38,17 @@ class WindowsGame(unittest.TestCase):
     stored_reader = "JFW"
     with_standins = True
     screen = "1024x768x24"
+    seed = None
 
     def setUp(self):
         self.session = harness.Session(stored_reader=None, speech=False, launcher=["wine"],
                                        program=os.path.join(BUILD, "marivox.exe"),
-                                       screen=self.screen)
-        self.log = os.path.join(self.session.dir, "standin.log")
+                                       screen=self.screen, seed=self.seed)
+        # The stand-ins' log is read as the speech service's, each text "<call>|<text>".
+        log = self.session.spoken_log = os.path.join(self.session.dir, "standin.log")
         self.session.env.update({
             "WINEPREFIX": os.environ["WINEPREFIX"], "WINEDEBUG": "-all",
-            "WINEDLLOVERRIDES": "mscoree,mshtml=", "MARIVOX_STANDIN_LOG": wine_path(self.log)})
+            "WINEDLLOVERRIDES": "mscoree,mshtml=", "MARIVOX_STANDIN_LOG": wine_path(log)})
         if self.with_standins:
             self.session.env["WINEPATH"] = wine_path(STANDINS)
         self.session.__enter__()
@@ -68,23 +70,13 @@ class WindowsGame(unittest.TestCase):
 
     def said(self):
         """Calls to the screen reader so far: (seconds since the game started, call, text)."""
-        try:
-            with open(self.log, encoding="utf-8", errors="replace") as log:
-                lines = log.read().split("|\n")[:-1]
-        except FileNotFoundError:
-            return []
-        return [(float(stamp) - self.session.started_at, call, text)
-                for stamp, call, text in (line.split("|", 2) for line in lines)]
+        return [(stamp, *said.split("|", 1)) for stamp, said in self.session.spoken()]
 
     def texts(self, call="JFWSayString"):
         return [text for _, made, text in self.said() if made == call]
 
     def wait_for_text(self, text, call="JFWSayString", timeout=20, after=0):
-        found = harness.wait_until(lambda: next(
-            (t for t, made, said in self.said()[after:] if made == call and said == text), None),
-            timeout)
-        self.assertIsNotNone(found, "never heard %r; heard %r" % (text, self.said()))
-        return found
+        return self.session.wait_for_text(call + "|" + text, timeout, after)
 
     def windows(self):
         """What readwindows.exe finds on the desktop, as lines."""
