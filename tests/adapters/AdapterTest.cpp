@@ -31,7 +31,6 @@ namespace marivox {
 namespace {
 
 namespace fs = std::filesystem;
-using namespace std::chrono_literals;
 
 TEST(TimerContract, Fake) {
     fake::Transcript t;
