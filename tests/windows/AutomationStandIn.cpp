@@ -11,22 +11,18 @@
 #include <vector>
 
 #include "StandInLog.h"
+#include "adapters/windows/WindowsText.h"
 
 namespace {
 
-std::atomic<long> objects{0};
+using marivox::windows::utf8Text;
 
-std::string utf8(const wchar_t* wide) {
-    const int length = WideCharToMultiByte(CP_UTF8, 0, wide, -1, nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(length > 0 ? length - 1 : 0), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide, -1, text.data(), length, nullptr, nullptr);
-    return text;
-}
+std::atomic<long> objects{0};
 
 std::string shown(const VARIANT& value) {
     switch (value.vt) {
-        case VT_BSTR:
-            return utf8(value.bstrVal);
+        case VT_BSTR:  // a null BSTR is the empty text
+            return utf8Text(value.bstrVal != nullptr ? value.bstrVal : L"");
         case VT_BOOL:
             return value.boolVal ? "true" : "false";
         case VT_I4:
@@ -65,7 +61,7 @@ class Recorder final : public IDispatch {
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
                                             DISPID* ids) override {
         for (UINT i = 0; i < count; ++i) {
-            names_.push_back(utf8(names[i]));
+            names_.push_back(utf8Text(names[i]));
             ids[i] = static_cast<DISPID>(names_.size());
         }
         return S_OK;
