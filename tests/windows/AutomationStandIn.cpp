@@ -3,7 +3,8 @@
 // A stand-in for the readers' automation objects ("GWSpeak.Speak", "FreedomSci.JawsApi",
 // "SAPI.SpVoice"), for tests only: an in-process COM server of any class the tests register
 // it as, whose every method, called by name, is written down instead of done. The log's call
-// is the method's name followed by its arguments after the first; its text, the first.
+// is the method's name followed by its arguments after the first; its text, the first. It
+// never asks to be unloaded: COM keeps a server loaded that has no DllCanUnloadNow.
 #include <objbase.h>
 #include <oleauto.h>
 
@@ -16,8 +17,6 @@
 namespace {
 
 using marivox::windows::utf8Text;
-
-std::atomic<long> objects{0};
 
 std::string shown(const VARIANT& value) {
     switch (value.vt) {
@@ -48,7 +47,6 @@ class Recorder final : public IDispatch {
         const ULONG left = --references_;
         if (left == 0) {
             delete this;
-            --objects;
         }
         return left;
     }
@@ -105,7 +103,6 @@ class Factory final : public IClassFactory {
             return CLASS_E_NOAGGREGATION;
         }
         auto* recorder = new Recorder;
-        ++objects;
         const HRESULT result = recorder->QueryInterface(id, out);
         recorder->Release();
         return result;
@@ -120,8 +117,4 @@ Factory factory;
 extern "C" __declspec(dllexport) HRESULT STDAPICALLTYPE
     DllGetClassObject(REFCLSID, REFIID wanted, void** out) {
     return factory.QueryInterface(wanted, out);
-}
-
-extern "C" __declspec(dllexport) HRESULT STDAPICALLTYPE DllCanUnloadNow() {
-    return objects == 0 ? S_OK : S_FALSE;
 }
