@@ -18,8 +18,7 @@ namespace marivox::fake {
 struct FaultPlan : FaultInjector, Recorder {
     using Recorder::Recorder;
     void enter(Procedure p) override {
-        const std::string unit = p == Procedure::frmReader_Form_Unload ? "frmReader." : "";
-        t.record("enter " + unit + std::string(procedureInfo(p).name), false);
+        t.record("enter " + std::string(procedureInfo(p).name), false);
     }
 };
 

@@ -11,7 +11,6 @@
 
 #include "fake/Rig.h"
 #include "model/Ships.h"
-#include "ports/Commands.h"
 
 // The whole system over the fakes: scene scripts (the .scene files here, their commands told
 // in README.md) played and compared with the stored .transcript files.

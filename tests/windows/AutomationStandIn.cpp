@@ -3,7 +3,8 @@
 // A stand-in for the readers' automation objects ("GWSpeak.Speak", "FreedomSci.JawsApi",
 // "SAPI.SpVoice"), for tests only: an in-process COM server of any class the tests register
 // it as, whose every method, called by name, is written down instead of done. The log's call
-// is the method's name followed by its arguments after the first; its text, the first.
+// is the method's name followed by its arguments after the first; its text, the first. It
+// never asks to be unloaded: COM keeps a server loaded that has no DllCanUnloadNow.
 #include <objbase.h>
 #include <oleauto.h>
 
@@ -11,22 +12,16 @@
 #include <vector>
 
 #include "StandInLog.h"
+#include "adapters/windows/WindowsText.h"
 
 namespace {
 
-std::atomic<long> objects{0};
-
-std::string utf8(const wchar_t* wide) {
-    const int length = WideCharToMultiByte(CP_UTF8, 0, wide, -1, nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(length > 0 ? length - 1 : 0), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide, -1, text.data(), length, nullptr, nullptr);
-    return text;
-}
+using marivox::windows::utf8Text;
 
 std::string shown(const VARIANT& value) {
     switch (value.vt) {
-        case VT_BSTR:
-            return utf8(value.bstrVal);
+        case VT_BSTR:  // a null BSTR is the empty text
+            return utf8Text(value.bstrVal != nullptr ? value.bstrVal : L"");
         case VT_BOOL:
             return value.boolVal ? "true" : "false";
         case VT_I4:
@@ -52,7 +47,6 @@ class Recorder final : public IDispatch {
         const ULONG left = --references_;
         if (left == 0) {
             delete this;
-            --objects;
         }
         return left;
     }
@@ -65,7 +59,7 @@ class Recorder final : public IDispatch {
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID,
                                             DISPID* ids) override {
         for (UINT i = 0; i < count; ++i) {
-            names_.push_back(utf8(names[i]));
+            names_.push_back(utf8Text(names[i]));
             ids[i] = static_cast<DISPID>(names_.size());
         }
         return S_OK;
@@ -109,7 +103,6 @@ class Factory final : public IClassFactory {
             return CLASS_E_NOAGGREGATION;
         }
         auto* recorder = new Recorder;
-        ++objects;
         const HRESULT result = recorder->QueryInterface(id, out);
         recorder->Release();
         return result;
@@ -124,8 +117,4 @@ Factory factory;
 extern "C" __declspec(dllexport) HRESULT STDAPICALLTYPE
     DllGetClassObject(REFCLSID, REFIID wanted, void** out) {
     return factory.QueryInterface(wanted, out);
-}
-
-extern "C" __declspec(dllexport) HRESULT STDAPICALLTYPE DllCanUnloadNow() {
-    return objects == 0 ? S_OK : S_FALSE;
 }

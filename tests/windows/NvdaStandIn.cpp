@@ -12,17 +12,9 @@
 
 #include "NvdaController.h"
 #include "StandInLog.h"
+#include "adapters/windows/WindowsText.h"
 
-namespace {
-
-std::string utf8(const wchar_t* wide) {
-    const int length = WideCharToMultiByte(CP_UTF8, 0, wide, -1, nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(length > 0 ? length - 1 : 0), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide, -1, text.data(), length, nullptr, nullptr);
-    return text;
-}
-
-}  // namespace
+using marivox::windows::utf8Text;
 
 error_status_t testIfRunning(handle_t) {
     logCall("testIfRunning", "");
@@ -30,7 +22,7 @@ error_status_t testIfRunning(handle_t) {
 }
 
 error_status_t speakText(handle_t, const wchar_t* text) {
-    logCall("speakText", utf8(text));
+    logCall("speakText", utf8Text(text));
     return 0;
 }
 
@@ -40,7 +32,7 @@ error_status_t cancelSpeech(handle_t) {
 }
 
 error_status_t brailleMessage(handle_t, const wchar_t* message) {
-    logCall("brailleMessage", utf8(message));
+    logCall("brailleMessage", utf8Text(message));
     return 0;
 }
 

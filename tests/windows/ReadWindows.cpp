@@ -10,15 +10,15 @@
 #include <cstdio>
 #include <string>
 
+#include "adapters/windows/WindowsText.h"
+
 namespace {
 
-std::string utf8(const std::wstring& wide) {
-    const int length =
-        WideCharToMultiByte(CP_UTF8, 0, wide.c_str(), -1, nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(length > 0 ? length - 1 : 0), '\0');
-    WideCharToMultiByte(CP_UTF8, 0, wide.c_str(), -1, text.data(), length, nullptr, nullptr);
+// One line of the output: a text's line breaks become spaces.
+std::string oneLine(const std::wstring& wide) {
+    std::string text = marivox::windows::utf8Text(wide);
     for (char& c : text) {
-        c = c == '\r' ? ' ' : c == '\n' ? ' ' : c;
+        c = c == '\r' || c == '\n' ? ' ' : c;
     }
     return text;
 }
@@ -41,7 +41,7 @@ BOOL CALLBACK control(HWND child, LPARAM) {
                 static_cast<std::size_t>(SendMessageW(child, LB_GETTEXTLEN, i, 0)) + 1, L'\0');
             SendMessageW(child, LB_GETTEXT, i, reinterpret_cast<LPARAM>(item.data()));
             item.resize(wcslen(item.c_str()));
-            std::printf("item|%s|%s\n", utf8(item).c_str(), i == selected ? "selected" : "");
+            std::printf("item|%s|%s\n", oneLine(item).c_str(), i == selected ? "selected" : "");
         }
     } else if (_wcsicmp(kind, L"MarivoxBoard") == 0) {
         RECT place;
@@ -49,14 +49,14 @@ BOOL CALLBACK control(HWND child, LPARAM) {
         std::printf("board|%ld %ld %ld %ld\n", place.left, place.top, place.right, place.bottom);
     } else if (IsWindowVisible(child) && GetWindowTextLengthW(child) > 0) {
         std::printf("%s|%s\n", _wcsicmp(kind, L"Button") == 0 ? "button" : "text",
-                    utf8(textOf(child)).c_str());
+                    oneLine(textOf(child)).c_str());
     }
     return TRUE;
 }
 
 BOOL CALLBACK window(HWND top, LPARAM) {
     if (IsWindowVisible(top) && GetWindowTextLengthW(top) > 0) {
-        std::printf("window|%s\n", utf8(textOf(top)).c_str());
+        std::printf("window|%s\n", oneLine(textOf(top)).c_str());
         EnumChildWindows(top, control, 0);
     }
     return TRUE;
