@@ -148,8 +148,7 @@ class Hearing:
         the recording began; and the recording began no later than any chunk's arrival less
         the sound in it. The earliest such bound is taken, so a late read never delays it.
         """
-        data = bytes(self.recording[: len(self.recording) // 2 * 2])
-        began = self._recording_began()
+        began, data = self._recorded()
         if began is None:
             return []
         found = []
@@ -162,20 +161,21 @@ class Hearing:
                 at = data.find(probe, at + 1)
         return sorted(found)
 
-    def _recording_began(self):
-        return min((when - size / 2 / SAMPLE_RATE for size, when in list(self.arrivals)),
-                   default=None)
+    def _recorded(self):
+        """When the recording began (None before it has), and its whole samples."""
+        began = min((when - size / 2 / SAMPLE_RATE for size, when in list(self.arrivals)),
+                    default=None)
+        return began, bytes(self.recording[: len(self.recording) // 2 * 2])
 
     def sound_times_by_shape(self, threshold=0.97):
         """As sound_times, for a player whose samples are converted on their way (Wine 10's
         are): each sound is found where the shape of its loudness, 10 ms a step, matches the
         recording's closely and about as loud; where matches overlap, the closest counts.
         A start is placed to within a step."""
-        began = self._recording_began()
+        began, data = self._recorded()
         if began is None:
             return []
-        recording = _loudness(array.array("h", bytes(
-            self.recording[: len(self.recording) // 2 * 2])))
+        recording = _loudness(array.array("h", data))
         matches = []
         for name in SOUNDS:
             quiet, shape = _shape(os.path.join(os.path.dirname(self.program), name + ".wav"))

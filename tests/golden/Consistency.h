@@ -30,7 +30,7 @@ inline std::string oceanProblem(const Ocean& ocean, const PerShip<std::int16_t>&
                 shipWithIntactCode(code) ? shipWithIntactCode(code) : shipWithHitCode(code);
             if ((!water && !ship) || (code != 0 && !isPlayingCell(row, col))) {
                 return side + " ocean holds code " + std::to_string(code) + " at " +
-                       std::to_string(row) + "," + std::to_string(col);
+                       std::to_string(row) + "," + std::to_string(col) + "; ";
             }
             if (ship) {
                 Cells& c = ships[static_cast<std::size_t>(*ship)];
@@ -48,18 +48,18 @@ inline std::string oceanProblem(const Ocean& ocean, const PerShip<std::int16_t>&
         const bool straight = (c.top == c.bottom && c.right - c.left == ship.length - 1) ||
                               (c.left == c.right && c.bottom - c.top == ship.length - 1);
         if (c.count != 0 && (c.count != ship.length || !straight)) {  // 0: not laid yet
-            return name + " is not one straight line of its length";
+            return name + " is not one straight line of its length; ";
         }
         if (hits[ship.type] != c.hits) {
-            return name + ": its hits disagree with the ocean";
+            return name + ": its hits disagree with the ocean; ";
         }
         if ((sunk[ship.type] != kTrue && sunk[ship.type] != kFalse) ||
             (sunk[ship.type] == kTrue) != (c.hits == ship.length)) {
-            return name + ": its sunk flag disagrees with its hits";
+            return name + ": its sunk flag disagrees with its hits; ";
         }
         sunkFlags += sunk[ship.type] == kTrue;
     }
-    return sunkCount == sunkFlags ? "" : side + " sunk count disagrees with the sunk flags";
+    return sunkCount == sunkFlags ? "" : side + " sunk count disagrees with the sunk flags; ";
 }
 
 inline std::string huntProblem(const GameState& s) {
@@ -68,34 +68,28 @@ inline std::string huntProblem(const GameState& s) {
         return "";
     }
     if (s.HalHunting != kTrue || !hunted || s.HalHitCount < 1) {
-        return "HalHunting is not a flag, or hunts no ship, or with no hit counted";
+        return "HalHunting is not a flag, or hunts no ship, or with no hit counted; ";
     }
     const ShipInfo& ship = shipInfo(*hunted);
     // The hit count itself may run ahead of the ship's hits: a new game keeps it, and a
     // computer's turn still pending from the old game can start a hunt on the new board.
-    if (s.HalHitShip != ship.hitCode || s.HalHits[ship.type] < 1 ||
-        s.HalHits[ship.type] >= ship.length ||
-        s.MyOcean(s.HalLastRow, s.HalLastCol) != ship.hitCode) {
-        return "the hunt is not after a ship hit and afloat, nor remembers where it hit last";
-    }
-    return "";
+    const bool afloatAndRemembered = s.HalHitShip == ship.hitCode && s.HalHits[ship.type] >= 1 &&
+                                     s.HalHits[ship.type] < ship.length &&
+                                     s.MyOcean(s.HalLastRow, s.HalLastCol) == ship.hitCode;
+    return afloatAndRemembered
+               ? ""
+               : "the hunt is not after a ship hit and afloat, nor remembers where it hit last; ";
 }
 
-// The first problem found, or the empty text.
+// Every problem found, each followed by "; ", or the empty text.
 inline std::string consistencyProblem(const GameState& s) {
-    for (const std::string& problem :
-         {oceanProblem(s.HalOcean, s.MyHits, s.MySunk, s.MySunkCount, "the computer's"),
-          oceanProblem(s.MyOcean, s.HalHits, s.HalSunk, s.HalSunkCount, "the player's"),
-          std::string(s.TurnState != kPlayersTurn && s.TurnState != kComputersTurn
-                          ? "TurnState is neither 0 nor 1"
-                      : s.Shooting != kTrue && s.Shooting != kFalse ? "Shooting is no flag"
-                                                                    : ""),
-          huntProblem(s)}) {
-        if (!problem.empty()) {
-            return problem;
-        }
-    }
-    return "";
+    return oceanProblem(s.HalOcean, s.MyHits, s.MySunk, s.MySunkCount, "the computer's") +
+           oceanProblem(s.MyOcean, s.HalHits, s.HalSunk, s.HalSunkCount, "the player's") +
+           (s.TurnState == kPlayersTurn || s.TurnState == kComputersTurn
+                ? ""
+                : "TurnState is neither 0 nor 1; ") +
+           (s.Shooting == kTrue || s.Shooting == kFalse ? "" : "Shooting is no flag; ") +
+           huntProblem(s);
 }
 
 }  // namespace marivox
