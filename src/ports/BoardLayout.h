@@ -29,6 +29,11 @@ struct BoardPlaces {
     int boardHeight;
     int legendShift;    // how far below its normal place (scaled) the legend stands
     double markPixels;  // the marks' font
+    bool normal;        // the normal window at 100%: the desktop's own look, untouched
+};
+
+struct Rect {
+    int left, top, width, height;
 };
 
 // The client area the window would like at a zoom: the normal one, larger with the zoom.
@@ -59,9 +64,20 @@ inline BoardPlaces boardPlaces(const NormalMetrics& m, int width, int height, in
     const double normalShare = m.fontPixels / m.lineHeight;
     const double share =
         normalShare + (0.95 - normalShare) * std::min(1.0, (lineScale - 1.0) / 2.0);
-    return {legendScale, zoom * roomier, boardHeight,
+    return {legendScale,
+            zoom * roomier,
+            boardHeight,
             static_cast<int>(std::lround(boardHeight - m.boardHeight * legendScale)),
-            share * m.lineHeight * lineScale};
+            share * m.lineHeight * lineScale,
+            zoomPercent == 100 && legendScale == 1 && boardHeight == m.boardHeight};
+}
+
+// Where a legend line stands, given its place in the normal layout.
+inline Rect legendPlace(const BoardPlaces& p, int left, int top, int width, int height) {
+    const auto scaled = [&](int value) {
+        return static_cast<int>(std::lround(value * p.legendScale));
+    };
+    return {scaled(left), scaled(top) + p.legendShift, scaled(width), scaled(height)};
 }
 
 }  // namespace marivox::layout

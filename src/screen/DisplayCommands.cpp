@@ -25,6 +25,10 @@ constexpr std::string_view kContrastKey = "HighContrast";
 // The sizes zoom steps through, in percent of the normal one.
 constexpr std::array kZooms{100, 125, 150, 175, 200, 250, 300, 400};
 
+std::string zoomSaid(int zoom) {
+    return "Zoom " + std::to_string(zoom) + " percent";
+}
+
 // A stored number that is one of `allowed`, else nothing: an odd value is no reason to
 // bother the player, and the default serves instead.
 std::optional<int> storedNumber(std::string_view text, auto allowed) {
@@ -80,7 +84,7 @@ void GameScreen::mnuOptionsZoomIn_Click() {
     guard_.run(Procedure::mnuOptionsZoomIn_Click, [&] {
         const auto next = std::ranges::upper_bound(kZooms, zoom_);
         const int zoom = next != kZooms.end() ? *next : kZooms.back();
-        changeDisplay(zoom, highContrast_, "Zoom " + std::to_string(zoom) + " percent");
+        changeDisplay(zoom, highContrast_, zoomSaid(zoom));
     });
 }
 
@@ -88,13 +92,13 @@ void GameScreen::mnuOptionsZoomOut_Click() {
     guard_.run(Procedure::mnuOptionsZoomOut_Click, [&] {
         const auto below = std::ranges::lower_bound(kZooms, zoom_);
         const int zoom = below != kZooms.begin() ? *std::prev(below) : kZooms.front();
-        changeDisplay(zoom, highContrast_, "Zoom " + std::to_string(zoom) + " percent");
+        changeDisplay(zoom, highContrast_, zoomSaid(zoom));
     });
 }
 
 void GameScreen::mnuOptionsZoomNormal_Click() {
     guard_.run(Procedure::mnuOptionsZoomNormal_Click,
-               [&] { changeDisplay(kZooms.front(), highContrast_, "Zoom 100 percent"); });
+               [&] { changeDisplay(kZooms.front(), highContrast_, zoomSaid(kZooms.front())); });
 }
 
 void GameScreen::mnuOptionsContrast_Click() {

@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
-#include <cmath>
 #include <string>
 
 #include "adapters/probe/LatencyLog.h"
@@ -118,21 +117,18 @@ void GameWindowQt::relayout() {
     const QSize client = centralWidget()->size();
     const layout::BoardPlaces places =
         layout::boardPlaces(normal_, client.width(), client.height(), zoom_);
-    const bool normal =
-        zoom_ == 100 && places.legendScale == 1 && places.boardHeight == normal_.boardHeight;
     grid_->setGeometry(
         0, 0, twips(layout::kBoard.width) + std::max(0, client.width() - normal_.clientWidth),
         places.boardHeight);
-    grid_->setLook(normal ? 0 : places.markPixels, normal ? 1 : places.headingScale, highContrast_);
+    grid_->setLook(places.normal ? 0 : places.markPixels, places.normal ? 1 : places.headingScale,
+                   highContrast_);
     for (std::size_t i = 0; i < legend_.size(); ++i) {
-        const QRect place = twipsRect(layout::kLegend[i].place);
-        const double s = places.legendScale;
-        legend_[i]->setGeometry(static_cast<int>(std::lround(place.x() * s)),
-                                static_cast<int>(std::lround(place.y() * s)) + places.legendShift,
-                                static_cast<int>(std::lround(place.width() * s)),
-                                static_cast<int>(std::lround(place.height() * s)));
+        const QRect normal = twipsRect(layout::kLegend[i].place);
+        const layout::Rect place =
+            layout::legendPlace(places, normal.x(), normal.y(), normal.width(), normal.height());
+        legend_[i]->setGeometry(place.left, place.top, place.width, place.height);
         QFont font = legend_[i]->font();
-        font.setPointSizeF(legendPoints_[i] * s);
+        font.setPointSizeF(legendPoints_[i] * places.legendScale);
         legend_[i]->setFont(font);
         fitTextToWidth(*legend_[i]);  // text does not grow quite as its place does
     }

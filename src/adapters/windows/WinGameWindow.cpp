@@ -85,8 +85,6 @@ WinGameWindow::WinGameWindow(WinApplication& application) : application_(applica
     board.right = std::min(board.right, client.right);  // as far as the window shows it
     grid_ = std::make_unique<WinGrid>(window_, board);
     buildLegend();
-    LOGFONTW font{};
-    GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof font, &font);
     const int boardHeight = pixels(layout::kBoard.height);
     normal_ = {pixels(layout::kGameClientWidth),
                pixels(layout::kGameClientHeight),
@@ -94,7 +92,7 @@ WinGameWindow::WinGameWindow(WinApplication& application) : application_(applica
                pixels(layout::kLegend.front().place.top),
                pixels(layout::kLegend.back().place.top + layout::kLegend.back().place.height),
                (boardHeight - pixels(300)) / 9,
-               static_cast<double>(std::abs(font.lfHeight))};
+               static_cast<double>(std::abs(guiFont().lfHeight))};
     std::vector<ACCEL> keys;
     commands::forEach([&](const commands::Command& command) {
         for (const commands::Key& key : command.keys) {
@@ -181,27 +179,24 @@ void WinGameWindow::relayout() {
     GetClientRect(window_, &client);
     const layout::BoardPlaces places =
         layout::boardPlaces(normal_, client.right, client.bottom, zoom_);
-    const bool normal =
-        zoom_ == 100 && places.legendScale == 1 && places.boardHeight == normal_.boardHeight;
     const int boardWidth = std::min(pixels(layout::kBoard.width), normal_.clientWidth) +
                            std::max(0, static_cast<int>(client.right) - normal_.clientWidth);
     MoveWindow(grid_->handle(), 0, 0, boardWidth, places.boardHeight, TRUE);
-    grid_->setLook(normal ? 0 : places.markPixels, normal ? 1 : places.headingScale, highContrast_);
+    grid_->setLook(places.normal ? 0 : places.markPixels, places.normal ? 1 : places.headingScale,
+                   highContrast_);
     DeleteObject(legendFont_);
     legendFont_ = nullptr;
     if (places.legendScale != 1) {
-        LOGFONTW font{};
-        GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof font, &font);
+        LOGFONTW font = guiFont();
         font.lfHeight = static_cast<LONG>(std::lround(font.lfHeight * places.legendScale));
         legendFont_ = CreateFontIndirectW(&font);
     }
     for (std::size_t i = 0; i < legend_.size(); ++i) {
-        const RECT place = pixelRect(layout::kLegend[i].place);
-        const auto scaled = [&](LONG value) {
-            return static_cast<int>(std::lround(value * places.legendScale));
-        };
-        MoveWindow(legend_[i], scaled(place.left), scaled(place.top) + places.legendShift,
-                   scaled(place.right - place.left), scaled(place.bottom - place.top), TRUE);
+        const RECT normal = pixelRect(layout::kLegend[i].place);
+        const layout::Rect place =
+            layout::legendPlace(places, normal.left, normal.top, normal.right - normal.left,
+                                normal.bottom - normal.top);
+        MoveWindow(legend_[i], place.left, place.top, place.width, place.height, TRUE);
         SendMessageW(legend_[i], WM_SETFONT,
                      reinterpret_cast<WPARAM>(
                          legendFont_ != nullptr ? legendFont_ : GetStockObject(DEFAULT_GUI_FONT)),

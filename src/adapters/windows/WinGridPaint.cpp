@@ -14,12 +14,6 @@ namespace {
 
 constexpr int kCursorFrame = 5;  // high contrast's frame around the cursor cell, in pixels
 
-double normalFontPixels() {
-    LOGFONTW look{};
-    GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof look, &look);
-    return std::abs(look.lfHeight);
-}
-
 COLORREF colour(Rgb c) {
     return RGB(c.red, c.green, c.blue);
 }
@@ -32,8 +26,7 @@ void WinGrid::setLook(double markPixels, double headingScale, bool highContrast)
         if (pixels <= 0) {
             return nullptr;
         }
-        LOGFONTW look{};
-        GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof look, &look);
+        LOGFONTW look = guiFont();
         look.lfHeight = -static_cast<LONG>(std::lround(pixels));
         look.lfWidth = 0;
         look.lfWeight = bold ? FW_BOLD : look.lfWeight;
@@ -42,7 +35,7 @@ void WinGrid::setLook(double markPixels, double headingScale, bool highContrast)
     DeleteObject(markFont_);
     DeleteObject(headingFont_);
     markFont_ = font(markPixels, highContrast);
-    headingFont_ = font(headingScale == 1 ? 0 : normalFontPixels() * headingScale, false);
+    headingFont_ = font(headingScale == 1 ? 0 : std::abs(guiFont().lfHeight) * headingScale, false);
     headingScale_ = headingScale;
     highContrast_ = highContrast;
     InvalidateRect(window_, nullptr, TRUE);

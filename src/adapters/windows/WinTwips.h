@@ -22,6 +22,13 @@ inline RECT pixelRect(const layout::Place& place) {
     return {left, top, left + pixels(place.width), top + pixels(place.height)};
 }
 
+// The desktop's dialog font, which every larger font of the game's windows starts from.
+inline LOGFONTW guiFont() {
+    LOGFONTW font{};
+    GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof font, &font);
+    return font;
+}
+
 // A child control at its place in its parent's client area.
 inline HWND createControl(HWND parent, const wchar_t* type, const wchar_t* text, DWORD style,
                           const layout::Place& place, int id) {
